@@ -26,6 +26,15 @@ public:
 
     log4cxx::LoggerPtr logger() const { return m_logger; }
 
+    // Reads VELMORA_LOG_LEVEL and VELMORA_LOG_FILE again and rebuilds the appenders.
+    void configure();
+
+    // "debug", "info", "warn" or "error" in any case; anything else (also empty) is info.
+    static log4cxx::LevelPtr levelFromName(const std::string& name);
+
+    // The layout of every line: date, level, thread, file:line function, message.
+    static const char* pattern();
+
 private:
     void write(const log4cxx::LevelPtr& level, const std::string& tag, const std::string& message,
                const log4cxx::spi::LocationInfo& location);

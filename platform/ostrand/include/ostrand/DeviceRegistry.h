@@ -55,11 +55,15 @@ public:
 private:
     CDeviceRegistry() = default;
     void reloadIfChanged();
+    void load(const std::string& path);
+    void clearEntries();
 
     mutable std::mutex m_mutex;
     std::string m_overridePath;
     std::string m_loadedPath;
-    long long m_loadedMtime = -1;
+    long long m_loadedMtime = -1;     // nanoseconds; kMissingFile when the file was absent
+    long long m_loadedSize = -1;
+    unsigned long long m_loadedInode = 0;
     std::map<std::string, DeviceEntry> m_devices;
     std::vector<std::string> m_order;
     ServiceEntry m_services;
