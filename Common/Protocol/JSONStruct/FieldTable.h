@@ -1,0 +1,295 @@
+#pragma once
+// The one generic engine behind every record: a record lists its fields once, as a table
+// of (key, member, rule), and reading, writing and presentKeys all follow from that table.
+// Copying needs nothing: every field is a member by value.
+//
+// Declaring a record:
+//
+//     struct PeerNode : public IReturnData {
+//         std::string guid;            // the member and its default
+//         int32_t linkPort = 0;
+//
+//         PROTOCOL_RECORD(PeerNode,
+//             PROTOCOL_FIELD(guid),    // key "guid", rule of std::string
+//             PROTOCOL_FIELD(linkPort))
+//     };
+//
+// The field kind follows the member's type: std::string (string), int32_t (integer),
+// bool (boolean), double (real), a record (nested), std::vector of records, of
+// std::string or of int32_t (list). A key that differs from the member's name uses
+// PROTOCOL_KEYED_FIELD("key ", member). A field whose two directions differ adds one of
+// the options below to its entry:
+//     .nonZero()            bool read as valueint != 0 instead of == 1
+//     .writtenAsBoolean()   int32_t read as an integer, written as JSON true when not 0
+//     .readFrom("iKey")     looked up under another key than the one it is written under
+//     .presentAs("Key")     noted in presentKeys under another name than its key
+// The table's order is the order of writing (and of reading, which no reader can tell).
+// A request record adds PROTOCOL_ROOT_NAME("root") and, where it checks its fields, its
+// own validate(). PROTOCOL_RECORD gives the record a constructor from an optional
+// const cJSON*; a record that only ever lives inside another uses PROTOCOL_MEMBER_RECORD,
+// which leaves it with its plain default constructor.
+#include <cjson/cJSON.h>
+
+#include <cstdint>
+#include <string>
+#include <tuple>
+#include <type_traits>
+#include <vector>
+
+#include "JSONStruct/IJSONStruct.h"
+
+namespace protocol {
+
+namespace detail {
+
+template <class T>
+struct ListTraits : std::false_type {};
+template <class T, class A>
+struct ListTraits<std::vector<T, A>> : std::true_type {
+    using Element = T;
+};
+
+template <class T>
+constexpr bool kIsRecord = std::is_base_of_v<IJSONStruct, T>;
+
+template <class T>
+constexpr bool kIsScalar = std::is_same_v<T, std::string> || std::is_same_v<T, int32_t>
+    || std::is_same_v<T, bool> || std::is_same_v<T, double>;
+
+template <class T>
+constexpr bool kIsList = ListTraits<T>::value;
+
+template <class T>
+constexpr bool kIsListOfKnownElements = [] {
+    if constexpr (kIsList<T>) {
+        using Element = typename ListTraits<T>::Element;
+        return kIsRecord<Element> || std::is_same_v<Element, std::string> || std::is_same_v<Element, int32_t>;
+    } else {
+        return false;
+    }
+}();
+
+enum class ReadRule : uint8_t {
+    ByKind,   // the rule of the member's type
+    NonZero,  // boolean that takes any non-zero number as true
+};
+
+enum class WriteRule : uint8_t {
+    ByKind,   // the rule of the member's type
+    Boolean,  // integer written as JSON true when not 0, false when 0
+};
+
+} // namespace detail
+
+// One entry of a record's field table.
+template <class Record, class Member>
+struct FieldDecl {
+    static_assert(detail::kIsScalar<Member> || detail::kIsRecord<Member> || detail::kIsListOfKnownElements<Member>,
+                  "a record field is a std::string, int32_t, bool, double or record, or a std::vector of "
+                  "records, of std::string or of int32_t");
+
+    const char* key;                  // written under this key; looked up under it unless readKey
+    Member Record::*member;
+    const char* readKey = nullptr;    // looked up under this key instead, when set
+    const char* presentKey = nullptr; // noted in presentKeys under this name, when set
+    detail::ReadRule readRule = detail::ReadRule::ByKind;
+    detail::WriteRule writeRule = detail::WriteRule::ByKind;
+
+    constexpr FieldDecl nonZero() const
+    {
+        static_assert(std::is_same_v<Member, bool>, "nonZero() applies to bool fields");
+        FieldDecl decl = *this;
+        decl.readRule = detail::ReadRule::NonZero;
+        return decl;
+    }
+    constexpr FieldDecl writtenAsBoolean() const
+    {
+        static_assert(std::is_same_v<Member, int32_t>, "writtenAsBoolean() applies to int32_t fields");
+        FieldDecl decl = *this;
+        decl.writeRule = detail::WriteRule::Boolean;
+        return decl;
+    }
+    constexpr FieldDecl readFrom(const char* otherKey) const
+    {
+        FieldDecl decl = *this;
+        decl.readKey = otherKey;
+        return decl;
+    }
+    constexpr FieldDecl presentAs(const char* name) const
+    {
+        FieldDecl decl = *this;
+        decl.presentKey = name;
+        return decl;
+    }
+
+    constexpr const char* lookupKey() const { return readKey != nullptr ? readKey : key; }
+    constexpr const char* presentName() const { return presentKey != nullptr ? presentKey : lookupKey(); }
+};
+
+template <class Record, class Member>
+constexpr FieldDecl<Record, Member> field(const char* key, Member Record::*member)
+{
+    return FieldDecl<Record, Member>{key, member};
+}
+
+namespace detail {
+
+// Integer value of a node: cJSON's saturated, truncated valueint; JSON true counts 1
+// also in trees that were built rather than parsed.
+inline int32_t integerOf(const cJSON* node)
+{
+    return cJSON_IsTrue(node) ? 1 : static_cast<int32_t>(node->valueint);
+}
+
+inline void readValue(const cJSON* node, std::string& value, ReadRule)
+{
+    if (node->valuestring != nullptr)
+        value.assign(node->valuestring);
+    else
+        value.clear();
+}
+
+inline void readValue(const cJSON* node, int32_t& value, ReadRule)
+{
+    value = integerOf(node);
+}
+
+inline void readValue(const cJSON* node, bool& value, ReadRule rule)
+{
+    value = rule == ReadRule::NonZero ? integerOf(node) != 0 : integerOf(node) == 1;
+}
+
+inline void readValue(const cJSON* node, double& value, ReadRule)
+{
+    value = node->valuedouble;
+}
+
+template <class T>
+std::enable_if_t<kIsRecord<T>> readValue(const cJSON* node, T& value, ReadRule)
+{
+    value.T::fromJSON(node);
+}
+
+// Every child is an element, whether the value is an array or not; an element record
+// starts from its defaults.
+template <class T>
+void readValue(const cJSON* node, std::vector<T>& list, ReadRule rule)
+{
+    list.reserve(static_cast<size_t>(cJSON_GetArraySize(node)));
+    for (const cJSON* element = node->child; element != nullptr; element = element->next) {
+        list.emplace_back();
+        readValue(element, list.back(), rule);
+    }
+}
+
+template <class Record, class Member>
+void readField(Record& record, const cJSON* json, const FieldDecl<Record, Member>& decl)
+{
+    Member& value = record.*decl.member;
+    if constexpr (kIsList<Member>)
+        value.clear();
+    const cJSON* node = cJSON_GetObjectItem(json, decl.lookupKey());
+    if (node == nullptr)
+        return;
+    readValue(node, value, decl.readRule);
+    record.presentKeys.insert(decl.presentName());
+}
+
+// Places `item` under one of the table's keys, once the filter has let the key through.
+// The keys are string literals that live for the whole run, so cJSON keeps the pointer
+// rather than a copy: half the allocations of a written record. Takes ownership of `item`.
+inline void addTableItem(cJSON* object, const char* key, cJSON* item)
+{
+    if (item != nullptr && !cJSON_AddItemToObjectCS(object, key, item))
+        cJSON_Delete(item);
+}
+
+inline cJSON* makeItem(const std::string& value) { return cJSON_CreateString(value.c_str()); }
+inline cJSON* makeItem(int32_t value) { return cJSON_CreateNumber(static_cast<double>(value)); }
+inline cJSON* makeItem(bool value) { return cJSON_CreateBool(value ? 1 : 0); }
+inline cJSON* makeItem(double value) { return cJSON_CreateNumber(value); }
+template <class T>
+std::enable_if_t<kIsRecord<T>, cJSON*> makeItem(T& value)
+{
+    return value.T::toJSON();
+}
+
+template <class Record, class Member>
+void writeField(Record& record, cJSON* object, const FieldDecl<Record, Member>& decl)
+{
+    const char* key = decl.key;
+    if (record.isItemIgnored(key))
+        return;
+    Member& value = record.*decl.member;
+    if constexpr (std::is_same_v<Member, int32_t>) {
+        if (decl.writeRule == WriteRule::Boolean) {
+            addTableItem(object, key, makeItem(value != 0));
+            return;
+        }
+    }
+    if constexpr (kIsList<Member>) {
+        cJSON* array = cJSON_CreateArray();
+        if (array == nullptr)
+            return;
+        // Elements go in under the empty key, which the filter always lets through.
+        for (auto& element : value)
+            addTableItem(array, "", makeItem(element));
+        addTableItem(object, key, array);
+    } else {
+        addTableItem(object, key, makeItem(value));
+    }
+}
+
+template <class Record, class Table>
+void readRecord(Record& record, const cJSON* json, const Table& table)
+{
+    if (json == nullptr)
+        return;
+    record.presentKeys.reserve(std::tuple_size_v<Table>);
+    std::apply([&](const auto&... decl) { (readField(record, json, decl), ...); }, table);
+}
+
+template <class Record, class Table>
+cJSON* writeRecord(Record& record, const Table& table)
+{
+    cJSON* object = cJSON_CreateObject();
+    if (object == nullptr)
+        return nullptr;
+    std::apply([&](const auto&... decl) { (writeField(record, object, decl), ...); }, table);
+    return object;
+}
+
+} // namespace detail
+} // namespace protocol
+
+// One field whose key is the member's own name.
+#define PROTOCOL_FIELD(member) ::protocol::field(#member, &Self::member)
+// One field whose key is not the member's name (a blank, a capital, a reserved word).
+#define PROTOCOL_KEYED_FIELD(key, member) ::protocol::field(key, &Self::member)
+
+// The field table and the two virtual operations it drives.
+#define PROTOCOL_FIELD_TABLE(Record, ...)                                                   \
+public:                                                                                     \
+    using Self = Record;                                                                    \
+    static constexpr auto fieldTable() { return std::make_tuple(__VA_ARGS__); }             \
+    void fromJSON(const cJSON* json) override                                               \
+    {                                                                                       \
+        ::protocol::detail::readRecord(*this, json, fieldTable());                          \
+    }                                                                                       \
+    cJSON* toJSON() override { return ::protocol::detail::writeRecord(*this, fieldTable()); }
+
+// A record that is also built on its own: default constructor, and a constructor that
+// reads `json` over the defaults (a null pointer leaves the defaults).
+#define PROTOCOL_RECORD(Record, ...)                                                        \
+public:                                                                                     \
+    Record() = default;                                                                     \
+    explicit Record(const cJSON* json) { Record::fromJSON(json); }                          \
+    PROTOCOL_FIELD_TABLE(Record, __VA_ARGS__)
+
+// A record that only ever lives as a member of another, which calls its fromJSON.
+#define PROTOCOL_MEMBER_RECORD(Record, ...) PROTOCOL_FIELD_TABLE(Record, __VA_ARGS__)
+
+// The root key of a request record.
+#define PROTOCOL_ROOT_NAME(name)                                                            \
+public:                                                                                     \
+    const char* rootName() const override { return name; }

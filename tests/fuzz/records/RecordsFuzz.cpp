@@ -1,0 +1,84 @@
+// Arbitrary text through the three service envelopes and through every topology record's
+// reader, then out again through its writer. Nothing may crash, leak or touch memory
+// it doesn't own, whatever the text.
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "JSONStruct/HTTP/HTTPCommonJSONStruct.h"
+#include "JSONStruct/Topology/TopologyJSONStruct.h"
+#include "JSONStruct/Validators.h"
+#include "Plinth/Log.h"
+
+namespace {
+
+template <class Record>
+void readAndWrite(const cJSON* json)
+{
+    Record record;
+    record.fromJSON(json);
+    cJSON* written = record.toJSON();
+    char* printed = cJSON_PrintUnformatted(written);
+    cJSON_free(printed);
+    cJSON_Delete(written);
+    Record copy(record);
+    copy.fromJSON(json);
+}
+
+template <class Record>
+void readRequest(const cJSON* json)
+{
+    Record record;
+    record.fromJSON(json);
+    std::string error;
+    record.validate(error);
+    protocol::checkAnyFieldExists(error, record);
+    cJSON_Delete(record.toJSON());
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int*, char***)
+{
+    // Failed parses log the whole text; the fuzzer needs none of it on its terminal.
+    Plinth::CSingleton<Plinth::details::CLog>::Instance().logger()->removeAllAppenders();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    const std::string text(reinterpret_cast<const char*>(data), size);
+
+    auto node = std::make_shared<protocol::DeviceNode>();
+    protocol::ReturnData envelope(node);
+    if (envelope.Parse(text))
+        envelope.Serialize();
+
+    auto alarms = std::make_shared<protocol::SwitchAlarmListData>();
+    protocol::ReturnDataForVideoWall wall(alarms);
+    if (wall.Parse(text))
+        wall.Serialize();
+
+    auto nodes = std::make_shared<protocol::DeviceNodeListData>();
+    protocol::RJReturnData rapid(std::make_shared<protocol::RJRecordAdapter>(nodes));
+    if (rapid.parse(text))
+        rapid.Serialize();
+
+    protocol::Str2ErrorCode(text);
+
+    cJSON* json = cJSON_Parse(text.c_str());
+    readAndWrite<protocol::DeviceNode>(json);
+    readAndWrite<protocol::DeviceNodeListData>(json);
+    readAndWrite<protocol::LineListData>(json);
+    readAndWrite<protocol::PortListData>(json);
+    readAndWrite<protocol::SwitchAlarmListData>(json);
+    readAndWrite<protocol::ProgressData>(json);
+    readAndWrite<protocol::PortSecurityRsp>(json);
+    readRequest<protocol::TopologyParam>(json);
+    readRequest<protocol::QueryCondition>(json);
+    readRequest<protocol::RootNode>(json);
+    readRequest<protocol::GatewayNode>(json);
+    cJSON_Delete(json);
+    return 0;
+}
