@@ -1,0 +1,289 @@
+// What the query layer costs on top of the wire, measured against the device emulator on
+// loopback:
+//   - one query through ParamInterface against the same request made with bare libcurl on a
+//     kept-alive connection;
+//   - the paged work-state walk of a 1,000-port switch through WorkStatusInferface against
+//     the same number of bare round trips with the same bodies.
+// The ratios (layer time / bare time; the goal is 1.3 or less) are printed after the table.
+#include <benchmark/benchmark.h>
+
+#include <QCoreApplication>
+#include <cjson/cJSON.h>
+#include <cstdio>
+#include <cstdlib>
+#include <curl/curl.h>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "logical/interface/ParamInterface.h"
+#include "logical/interface/WorkStatusInferface.h"
+#include "support/EmulatorProcess.h"
+
+namespace {
+
+using velmora::test::EmulatorProcess;
+
+EmulatorProcess* g_emulator = nullptr;
+std::string g_switch;         // a switch of the demo site
+std::string g_bigSwitch;      // 1,000 ports, paged work state
+int g_bigPageSize = 0;
+int g_bigPages = 0;
+
+// Share of the device's recent requests that were login challenges (401), a sign of a
+// connection that logs in again for each request.
+double challengeShare(const std::string& id)
+{
+    const std::vector<EmulatorProcess::Request> log = g_emulator->requestLog(id);
+    std::size_t challenges = 0;
+    for (const EmulatorProcess::Request& request : log) {
+        challenges += request.status == 401 ? 1 : 0;
+    }
+    g_emulator->clearRequestLog();
+    return log.empty() ? 0.0 : static_cast<double>(challenges) / static_cast<double>(log.size());
+}
+
+size_t collect(char* data, size_t size, size_t count, void* user)
+{
+    static_cast<std::string*>(user)->append(data, size * count);
+    return size * count;
+}
+
+// One kept-alive libcurl handle to one device of the emulator, with its digest login.
+class BareDevice {
+public:
+    explicit BareDevice(const std::string& id)
+        : m_handle(curl_easy_init())
+    {
+        const EmulatorProcess::Device device = *g_emulator->device(id);
+        m_base = g_emulator->baseUrl();
+        m_headers = curl_slist_append(m_headers, ("Host: " + device.hostName).c_str());
+        m_headers = curl_slist_append(m_headers, "Expect:");
+        curl_easy_setopt(m_handle, CURLOPT_HTTPHEADER, m_headers);
+        curl_easy_setopt(m_handle, CURLOPT_HTTPAUTH, CURLAUTH_DIGEST);
+        curl_easy_setopt(m_handle, CURLOPT_USERNAME, device.user.c_str());
+        curl_easy_setopt(m_handle, CURLOPT_PASSWORD, device.password.c_str());
+        curl_easy_setopt(m_handle, CURLOPT_NOSIGNAL, 1L);
+        // The query's own time-out; without one libcurl waits longer between its polls.
+        curl_easy_setopt(m_handle, CURLOPT_TIMEOUT_MS, 15000L);
+        curl_easy_setopt(m_handle, CURLOPT_WRITEFUNCTION, &collect);
+        curl_easy_setopt(m_handle, CURLOPT_WRITEDATA, &m_body);
+    }
+    ~BareDevice()
+    {
+        curl_slist_free_all(m_headers);
+        curl_easy_cleanup(m_handle);
+    }
+    BareDevice(const BareDevice&) = delete;
+    BareDevice& operator=(const BareDevice&) = delete;
+
+    bool get(const std::string& target)
+    {
+        curl_easy_setopt(m_handle, CURLOPT_URL, (m_base + target).c_str());
+        curl_easy_setopt(m_handle, CURLOPT_HTTPGET, 1L);
+        return perform();
+    }
+    bool post(const std::string& target, const std::string& body)
+    {
+        curl_easy_setopt(m_handle, CURLOPT_URL, (m_base + target).c_str());
+        curl_easy_setopt(m_handle, CURLOPT_POSTFIELDS, body.c_str());
+        curl_easy_setopt(m_handle, CURLOPT_POSTFIELDSIZE, static_cast<long>(body.size()));
+        return perform();
+    }
+    const std::string& body() const { return m_body; }
+
+private:
+    bool perform()
+    {
+        m_body.clear();
+        long status = 0;
+        return curl_easy_perform(m_handle) == CURLE_OK &&
+               curl_easy_getinfo(m_handle, CURLINFO_RESPONSE_CODE, &status) == CURLE_OK && status == 200;
+    }
+
+    CURL* m_handle;
+    curl_slist* m_headers = nullptr;
+    std::string m_base;
+    std::string m_body;
+};
+
+void SingleQueryParamInterface(benchmark::State& state)
+{
+    g_emulator->clearRequestLog();
+    for (auto _ : state) {
+        Quillon::DeviceStatus status(static_cast<_xmlNode*>(nullptr));
+        if (!velmora::ParamInterface::getSwitchDeviceStatus(status, g_switch)) {
+            state.SkipWithError("query failed");
+            break;
+        }
+        benchmark::DoNotOptimize(status.deviceUpTime);
+    }
+    state.counters["challenges"] = challengeShare(g_switch);
+}
+
+void SingleQueryBareCurl(benchmark::State& state)
+{
+    g_emulator->clearRequestLog();
+    BareDevice device(g_switch);
+    device.get("/NXRPC/System/status"); // the login of the kept-alive connection
+    for (auto _ : state) {
+        if (!device.get("/NXRPC/System/status")) {
+            state.SkipWithError("request failed");
+            break;
+        }
+        benchmark::DoNotOptimize(device.body().data());
+    }
+    state.counters["challenges"] = challengeShare(g_switch);
+}
+
+void WorkStateWalkInterface(benchmark::State& state)
+{
+    g_emulator->clearRequestLog();
+    protocol::SwitchCapabilities capability;
+    capability.supportWorkStatusBatch = true;
+    velmora::WorkStatusInferface* access = velmora::WorkStatusInferface::getInstance();
+    access->initMode(g_bigSwitch, capability);
+    for (auto _ : state) {
+        Quillon::SwitchesWorkState workState(std::string{});
+        if (!access->queryWorkState(workState) || workState.portList.size() != 1000) {
+            state.SkipWithError("walk failed");
+            break;
+        }
+        benchmark::DoNotOptimize(workState.portList.data());
+    }
+    state.counters["pages"] = g_bigPages;
+    state.counters["challenges"] = challengeShare(g_bigSwitch);
+}
+
+void WorkStateWalkBareCurl(benchmark::State& state)
+{
+    g_emulator->clearRequestLog();
+    BareDevice device(g_bigSwitch);
+    device.get("/NXRPC/Transfers/Switches/workState/search/capabilities");
+    // The same bodies as the walk's, one search per walk like the walk; built beforehand.
+    std::vector<std::vector<std::string>> bodies;
+    int walk = 0;
+    for (auto _ : state) {
+        if (walk % 64 == 0) {
+            state.PauseTiming();
+            bodies.clear();
+            for (int w = walk; w < walk + 64; ++w) {
+                std::vector<std::string> pages;
+                for (int page = 0; page < g_bigPages; ++page) {
+                    Quillon::SwitchesWorkStateSearchCond cond;
+                    cond.searchID = "BENCH-SEARCH-" + std::to_string(w);
+                    cond.maxResults = g_bigPageSize;
+                    cond.searchResultPosition = page * g_bigPageSize;
+                    pages.push_back(cond.createXml());
+                }
+                bodies.push_back(pages);
+            }
+            state.ResumeTiming();
+        }
+        for (const std::string& body : bodies[static_cast<std::size_t>(walk % 64)]) {
+            if (!device.post("/NXRPC/Transfers/Switches/workState/search", body)) {
+                state.SkipWithError("request failed");
+                return;
+            }
+            benchmark::DoNotOptimize(device.body().data());
+        }
+        ++walk;
+    }
+    state.counters["pages"] = g_bigPages;
+    state.counters["challenges"] = challengeShare(g_bigSwitch);
+}
+
+BENCHMARK(SingleQueryParamInterface)->Unit(benchmark::kMicrosecond)->MinTime(2.0)->UseRealTime();
+BENCHMARK(SingleQueryBareCurl)->Unit(benchmark::kMicrosecond)->MinTime(2.0)->UseRealTime();
+BENCHMARK(WorkStateWalkInterface)->Unit(benchmark::kMillisecond)->MinTime(3.0)->UseRealTime();
+BENCHMARK(WorkStateWalkBareCurl)->Unit(benchmark::kMillisecond)->MinTime(3.0)->UseRealTime();
+
+// Keeps the real time of each benchmark for the ratios: the median of the repetitions when
+// run with --benchmark_repetitions, else the one run.
+class RatioReporter : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        for (const Run& run : runs) {
+            if (run.error_occurred) {
+                continue;
+            }
+            const std::string& name = run.run_name.function_name;
+            if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median") {
+                m_times[name] = run.GetAdjustedRealTime();
+                m_fromMedian[name] = true;
+            } else if (run.run_type == Run::RT_Iteration && !m_fromMedian[name]) {
+                m_times[name] = run.GetAdjustedRealTime();
+            }
+        }
+        ConsoleReporter::ReportRuns(runs);
+    }
+    void printRatio(const char* what, const char* layer, const char* bare) const
+    {
+        const auto l = m_times.find(layer);
+        const auto b = m_times.find(bare);
+        if (l == m_times.end() || b == m_times.end() || b->second <= 0.0) {
+            std::printf("%-44s n/a\n", what);
+            return;
+        }
+        const double ratio = l->second / b->second;
+        std::printf("%-44s %.3f  (goal <= 1.3: %s)\n", what, ratio, ratio <= 1.3 ? "met" : "NOT met");
+    }
+
+private:
+    std::map<std::string, double> m_times;
+    std::map<std::string, bool> m_fromMedian;
+};
+
+bool pickDevices()
+{
+    for (const EmulatorProcess::Device& device : g_emulator->devices()) {
+        if (device.category != 120) {
+            continue;
+        }
+        if (g_switch.empty()) {
+            g_switch = device.id;
+        }
+        Quillon::SwitchesBasicInfo info;
+        Quillon::SwitchesWorkStateSearchCap cap(std::string{});
+        if (g_bigSwitch.empty() && device.capabilitiesJson.find("\"supportWorkStatusBatch\":true") != std::string::npos &&
+            velmora::ParamInterface::getSwitchesBasicInfo(info, device.id) && info.portList.size() == 1000 &&
+            velmora::ParamInterface::getSwitchesWorkStateSearchAbility(cap, device.id) && cap.maxResults > 0) {
+            g_bigSwitch = device.id;
+            g_bigPageSize = cap.maxResults;
+            g_bigPages = (1000 + cap.maxResults - 1) / cap.maxResults;
+        }
+    }
+    return !g_switch.empty() && !g_bigSwitch.empty();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Answers are logged whole at info level; the comparison is of the query path, not of
+    // the console.
+    setenv("VELMORA_LOG_LEVEL", "warn", 0);
+    QCoreApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+
+    EmulatorProcess emulator("large");
+    if (!emulator.isRunning()) {
+        std::fprintf(stderr, "emulator did not start: %s\n", emulator.errorString().c_str());
+        return 1;
+    }
+    g_emulator = &emulator;
+    if (!pickDevices()) {
+        std::fprintf(stderr, "the fleet has no switch of 1,000 ports with the paged work state\n");
+        return 1;
+    }
+
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    std::printf("\nRatios of the query layer over bare libcurl (kept-alive, same requests):\n");
+    reporter.printRatio("single query (GET /NXRPC/System/status)", "SingleQueryParamInterface", "SingleQueryBareCurl");
+    reporter.printRatio("work-state walk, 1,000 ports", "WorkStateWalkInterface", "WorkStateWalkBareCurl");
+    benchmark::Shutdown();
+    return 0;
+}
