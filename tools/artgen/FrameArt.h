@@ -1,0 +1,20 @@
+#pragma once
+// Drawing of the frames: the front of a device, sized to hold every port of the rows that use
+// it, with the ports' sockets in place, a model plate and a strip of status LEDs.
+#include <QImage>
+#include <vector>
+
+#include "ui/DevicePanelStatus/PanelLayouts.h"
+
+namespace artgen {
+
+// One use of a frame image: a row and the frame entry (mode) that names it.
+struct FrameUse {
+    const velmora::layouts::PanelLayout* layout = nullptr;
+    velmora::layouts::Frame frame;
+};
+
+// The frame image for all its uses; the first use decides the look and the plate.
+QImage drawFrame(const std::vector<FrameUse>& uses);
+
+} // namespace artgen
