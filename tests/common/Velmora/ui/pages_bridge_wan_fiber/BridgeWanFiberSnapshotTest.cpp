@@ -1,0 +1,81 @@
+// Renders the wireless card page of each emulated bridge, the WAN page of the routers and the
+// controller, and the fiber chassis page to PNG files under
+// <build>/snapshots/pages_bridge_wan_fiber, for people to look at.
+#include <QApplication>
+#include <QDir>
+#include <QImage>
+#include <QPixmap>
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+#include "BasicWirelessInfoWidget.h"
+#include "BridgeWanFiberTestFleet.h"
+#include "FiberPanelStatusWidget.h"
+#include "PPPoEStatusWidget.h"
+
+using velmora::test::BridgeWanFiberPageTest;
+
+namespace {
+
+QString snapshotDir()
+{
+    const char* build = std::getenv("VELMORA_BUILD_DIR");
+    QDir dir(build ? QString::fromLocal8Bit(build) : QDir::currentPath());
+    dir.mkpath("snapshots/pages_bridge_wan_fiber");
+    return dir.filePath("snapshots/pages_bridge_wan_fiber");
+}
+
+// Writes the page as it would stand in the dialog's stack and checks the file.
+void snapshot(QWidget& page, const QString& name, const QSize& size)
+{
+    page.resize(size);
+    page.show();
+    QApplication::processEvents();
+    const QPixmap pixmap = page.grab();
+    page.hide();
+    ASSERT_FALSE(pixmap.isNull());
+    const QString path = QDir(snapshotDir()).filePath(name + ".png");
+    ASSERT_TRUE(pixmap.save(path)) << path.toStdString();
+    const QImage image(path);
+    EXPECT_EQ(image.size(), size);
+    const QRgb first = image.pixel(0, 0);
+    bool varied = false;
+    for (int y = 0; y < image.height() && !varied; y += 7)
+        for (int x = 0; x < image.width() && !varied; x += 7)
+            varied = image.pixel(x, y) != first;
+    EXPECT_TRUE(varied) << name.toStdString();
+}
+
+class BridgeWanFiberSnapshotTest : public BridgeWanFiberPageTest {};
+
+} // namespace
+
+TEST_F(BridgeWanFiberSnapshotTest, WirelessCardOfEveryBridge)
+{
+    for (const char* name : {"bridge-a", "bridge-b", "bridge-c", "bridge-d", "bridge-nocard"}) {
+        SCOPED_TRACE(name);
+        velmora::CBasicWirelessInfoWidget page(nullptr);
+        fleet().open(page, name);
+        showStatus(page);
+        snapshot(page, QString::fromLatin1(name) + "-3-basic-wireless", QSize(900, 480));
+    }
+}
+
+TEST_F(BridgeWanFiberSnapshotTest, WanPortsOfRoutersAndController)
+{
+    for (const char* name : {"router", "enterprise-even", "enterprise-odd", "controller"}) {
+        SCOPED_TRACE(name);
+        velmora::CPPPoEStatusWidget page(nullptr);
+        fleet().open(page, name);
+        showStatus(page);
+        snapshot(page, QString::fromLatin1(name) + "-8-wan-status", QSize(1200, 300));
+    }
+}
+
+TEST_F(BridgeWanFiberSnapshotTest, FiberChassisCrate)
+{
+    velmora::CFiberPanelStatusWidget page(nullptr);
+    fleet().open(page, "crate");
+    showStatus(page);
+    snapshot(page, "crate-2-panel-state", QSize(820, 620));
+}
