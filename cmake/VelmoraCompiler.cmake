@@ -11,3 +11,11 @@ if(VELMORA_SANITIZE)
     add_compile_options(-fsanitize-ignorelist=${CMAKE_CURRENT_LIST_DIR}/ubsan-ignorelist.txt)
   endif()
 endif()
+
+# velmora_sanitizer_defaults(<target>): an executable of the sanitizer build gets the leak
+# suppressions of the libraries we run on (nothing happens in other builds).
+function(velmora_sanitizer_defaults target)
+  if(VELMORA_SANITIZE)
+    target_sources(${target} PRIVATE ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/LsanSuppressions.cpp)
+  endif()
+endfunction()

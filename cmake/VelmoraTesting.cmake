@@ -5,6 +5,7 @@ function(velmora_add_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBS;LABELS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE velmora_test_support ${ARG_LIBS})
+  velmora_sanitizer_defaults(${name})
   set(env
     "QT_QPA_PLATFORM=offscreen"
     "LSAN_OPTIONS=suppressions=${VELMORA_ROOT}/tests/support/lsan.supp"

@@ -54,6 +54,11 @@ std::string faultJson(const std::string& deviceId, const std::string& path, cons
         o.insert("count", fault.count);
     if (!fault.method.empty())
         o.insert("method", QString::fromStdString(fault.method));
+    if (fault.kind == "answer") {
+        o.insert("body", QString::fromStdString(fault.body));
+        if (!fault.contentType.empty())
+            o.insert("contentType", QString::fromStdString(fault.contentType));
+    }
     return QJsonDocument(o).toJson(QJsonDocument::Compact).toStdString();
 }
 

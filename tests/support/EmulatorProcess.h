@@ -39,12 +39,14 @@ public:
 
     // A fault of one device and path; built by the named constructors.
     struct Fault {
-        std::string kind;       // "delay", "status", "drop", "truncate", "malformed", "moreForever", "failPage"
+        std::string kind;       // "delay", "status", "drop", "truncate", "malformed", "moreForever", "failPage", "answer"
         int delayMs = 0;        // "delay": added wait
         int status = 0;         // "status", "failPage": HTTP status answered (failPage: 500 when 0)
         int page = 0;           // "failPage": the page of a walk that fails, from 1
         int count = 0;          // how many matching requests it hits; 0 = all of them
         std::string method;     // only requests of this verb; empty = any
+        std::string body;       // "answer": the body sent instead of the device's own
+        std::string contentType; // "answer": its type; empty = the type the path answers in
 
         static Fault delay(int ms) { Fault f; f.kind = "delay"; f.delayMs = ms; return f; }
         static Fault httpStatus(int code) { Fault f; f.kind = "status"; f.status = code; return f; }
@@ -52,6 +54,8 @@ public:
         static Fault truncate() { Fault f; f.kind = "truncate"; return f; }
         static Fault malformed() { Fault f; f.kind = "malformed"; return f; }
         static Fault moreForever() { Fault f; f.kind = "moreForever"; return f; }
+        // The device answers `text` as it stands (values the fleet itself never sends).
+        static Fault answer(const std::string& text, int code = 200) { Fault f; f.kind = "answer"; f.body = text; f.status = code; return f; }
         static Fault failPage(int pageNumber, int code = 500) { Fault f; f.kind = "failPage"; f.page = pageNumber; f.status = code; return f; }
     };
 

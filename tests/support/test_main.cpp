@@ -4,14 +4,6 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
-// Leaks of Qt's offscreen platform and fontconfig live until exit. CTest also runs each
-// binary to list its tests without the suppression file, so the list is built in.
-extern "C" const char* __lsan_default_suppressions()
-{
-    return "leak:libqoffscreen\nleak:QScreen\nleak:libfontconfig\nleak:libQt5Gui\n"
-           "leak:libQt5Core\nleak:libQt5Widgets\nleak:liblog4cxx\n";
-}
-
 int main(int argc, char** argv)
 {
     if (!std::getenv("QT_QPA_PLATFORM") && !std::getenv("DISPLAY"))

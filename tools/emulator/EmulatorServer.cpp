@@ -20,6 +20,7 @@ namespace emulator {
 namespace {
 
 const char* const kJsonType = "application/json; charset=UTF-8";
+const char* const kXmlType = "application/xml; charset=UTF-8";
 
 std::string hostWithoutPort(std::string host)
 {
@@ -311,7 +312,10 @@ void EmulatorServer::handleDevice(const DevicePlan& d, const httplib::Request& r
         return;
     }
     Answer a;
-    if (f.status) {
+    if (f.answer) {
+        a = Answer{f.answerStatus, f.answerBody,
+                   f.answerContentType.empty() ? std::string(json ? kJsonType : kXmlType) : f.answerContentType};
+    } else if (f.status) {
         a = Network::errorAnswer(f.status, target, json);
     } else {
         SearchFault search;
@@ -353,8 +357,13 @@ void EmulatorServer::handleService(const httplib::Request& req, httplib::Respons
         res.status = 500;
         return;
     }
-    Answer a = f.status ? Answer{f.status, "{\"code\": " + std::to_string(f.status) + ", \"msg\": \"injected fault\", \"data\": {}}\n", kJsonType}
-                        : m_network.serviceRequest(req.method, req.path, guid);
+    Answer a;
+    if (f.answer)
+        a = Answer{f.answerStatus, f.answerBody, f.answerContentType.empty() ? std::string(kJsonType) : f.answerContentType};
+    else if (f.status)
+        a = Answer{f.status, "{\"code\": " + std::to_string(f.status) + ", \"msg\": \"injected fault\", \"data\": {}}\n", kJsonType};
+    else
+        a = m_network.serviceRequest(req.method, req.path, guid);
     if (f.malformed)
         a.body = malformedBody(a.body);
     res.status = a.status;

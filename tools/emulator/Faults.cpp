@@ -12,7 +12,7 @@ namespace emulator {
 
 const std::vector<std::string>& FaultTable::kinds()
 {
-    static const std::vector<std::string> k = {"delay", "status", "drop", "truncate", "malformed", "moreForever", "failPage"};
+    static const std::vector<std::string> k = {"delay", "status", "drop", "truncate", "malformed", "moreForever", "failPage", "answer"};
     return k;
 }
 
@@ -20,7 +20,7 @@ static bool checkRule(FaultRule& rule, std::string& error)
 {
     const auto& k = FaultTable::kinds();
     if (std::find(k.begin(), k.end(), rule.kind) == k.end()) {
-        error = "unknown fault kind \"" + rule.kind + "\" (delay, status, drop, truncate, malformed, moreForever, failPage)";
+        error = "unknown fault kind \"" + rule.kind + "\" (delay, status, drop, truncate, malformed, moreForever, failPage, answer)";
         return false;
     }
     if (rule.device.empty())
@@ -34,6 +34,14 @@ static bool checkRule(FaultRule& rule, std::string& error)
     if (rule.kind == "status" && (rule.status < 100 || rule.status > 599)) {
         error = "a status fault needs a status from 100 to 599";
         return false;
+    }
+    if (rule.kind == "answer") {
+        if (rule.status == 0)
+            rule.status = 200;
+        if (rule.status < 100 || rule.status > 599) {
+            error = "an answer fault needs a status from 100 to 599";
+            return false;
+        }
     }
     if (rule.kind == "failPage") {
         if (rule.page < 1) {
@@ -74,6 +82,8 @@ bool FaultTable::parseRule(const std::string& text, FaultRule& rule, std::string
             rule.page = std::atoi(value.c_str());
         else if (key == "count")
             rule.count = std::atoi(value.c_str());
+        else if (key == "body")
+            rule.body = value; // on the command line a body holds no comma
         else {
             error = "unknown fault key \"" + key + "\"";
             return false;
@@ -106,6 +116,8 @@ bool FaultTable::parseJson(const cJSON* o, FaultRule& rule, std::string& error)
     number("status", rule.status);
     number("page", rule.page);
     number("count", rule.count);
+    text("body", rule.body);
+    text("contentType", rule.contentType);
     return checkRule(rule, error);
 }
 
@@ -175,7 +187,8 @@ std::string FaultTable::toJson() const
         out += "{\"id\": " + std::to_string(r.id) + ", \"device\": \"" + jsonEscape(r.device) + "\", \"path\": \"" +
                jsonEscape(r.path) + "\", \"method\": \"" + jsonEscape(r.method) + "\", \"kind\": \"" + r.kind +
                "\", \"ms\": " + std::to_string(r.delayMs) + ", \"status\": " + std::to_string(r.status) +
-               ", \"page\": " + std::to_string(r.page) + ", \"count\": " + std::to_string(r.count) + "}";
+               ", \"page\": " + std::to_string(r.page) + ", \"count\": " + std::to_string(r.count) +
+               (r.kind == "answer" ? ", \"body\": \"" + jsonEscape(r.body) + "\", \"contentType\": \"" + jsonEscape(r.contentType) + "\"" : std::string()) + "}";
     }
     out += "\n]}\n";
     return out;
@@ -220,6 +233,11 @@ FaultEffect FaultTable::match(const std::string& device, const std::string& meth
         else if (r.kind == "failPage") {
             e.failPage = r.page;
             e.failStatus = r.status;
+        } else if (r.kind == "answer" && !e.answer) {
+            e.answer = true;
+            e.answerStatus = r.status;
+            e.answerBody = r.body;
+            e.answerContentType = r.contentType;
         }
         if (r.count > 0 && --r.count == 0)
             it = m_rules.erase(it);

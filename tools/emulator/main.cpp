@@ -40,7 +40,7 @@ const char* const kUsage =
     "  --fault RULE           a fault, repeatable:\n"
     "                         device=<id|*>,path=<path|prefix*|*>,kind=<kind>[,ms=N]\n"
     "                         [,status=N][,page=N][,count=N][,method=VERB]\n"
-    "                         kinds: delay status drop truncate malformed moreForever failPage\n"
+    "                         kinds: delay status drop truncate malformed moreForever failPage answer\n"
     "  --faults FILE          faults from a JSON file (an array of fault objects)\n"
     "  --tick-ms N            wall milliseconds per second of device time (default 1000)\n"
     "  --freeze-tick N        start with the device clock stopped at tick N\n"

@@ -16,7 +16,9 @@
 
 #include "Plinth/StringUtil.h"
 
-namespace {
+// A named namespace: clang spells an anonymous one "(anonymous namespace)" in the function
+// text, and log4cxx cuts the method name at its first parenthesis.
+namespace plinth_log_test {
 
 struct CapturedEvent {
     std::string level;
@@ -241,4 +243,4 @@ TEST_F(LogTest, LogFileRollsOverAtTenMegabytes)
     rmdir(directory);
 }
 
-} // namespace
+} // namespace plinth_log_test

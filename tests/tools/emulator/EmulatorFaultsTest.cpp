@@ -1,5 +1,6 @@
 // Faults injected per device and path, at start and at run time: delay, error status,
-// dropped connection, truncated and malformed bodies, endless and failing paged searches.
+// dropped connection, truncated and malformed bodies, endless and failing paged searches,
+// answers given in full.
 #include "EmulatorClient.h"
 #include "ProtocolSchema.h"
 
@@ -140,6 +141,35 @@ TEST_F(EmulatorFaultsTest, CountLimitsAFaultAndClearingEndsAll)
     EXPECT_EQ(deviceRequest(*s_emulator, m_ac, "GET", kStatus).status, 500);
     ASSERT_TRUE(s_emulator->clearFaults());
     EXPECT_EQ(deviceRequest(*s_emulator, m_ac, "GET", kStatus).status, 200);
+}
+
+TEST_F(EmulatorFaultsTest, AnswerSendsTheGivenBodyInThePathsType)
+{
+    const std::string xml = "<DeviceStatus><cpuUsage>abc</cpuUsage></DeviceStatus>";
+    ASSERT_TRUE(s_emulator->setFault(m_switch.id, kStatus, Fault::answer(xml)));
+    HttpResult r = deviceRequest(*s_emulator, m_switch, "GET", kStatus);
+    EXPECT_EQ(r.status, 200);
+    EXPECT_EQ(r.body, xml);
+    EXPECT_EQ(r.header("content-type").rfind("application/xml", 0), 0u);
+
+    const char* const poe = "/NXRPC/Transfers/Switches/portCfg/portPOEInfo?format=json";
+    ASSERT_TRUE(s_emulator->setFault(m_switch.id, "/NXRPC/Transfers/Switches/portCfg/portPOEInfo*",
+                                     Fault::answer("{\"odd\": true}", 202)));
+    r = deviceRequest(*s_emulator, m_switch, "GET", poe);
+    EXPECT_EQ(r.status, 202);
+    EXPECT_EQ(r.body, "{\"odd\": true}");
+    EXPECT_EQ(r.header("content-type").rfind("application/json", 0), 0u);
+
+    // The services take given answers too.
+    ASSERT_TRUE(s_emulator->setFault(m_switch.id, "/topology/v1/deviceNode", Fault::answer("{\"code\": 7}")));
+    EXPECT_EQ(serviceRequest(*s_emulator, "GET", "/topology/v1/deviceNode?guid=" + m_switch.id).body, "{\"code\": 7}");
+}
+
+TEST_F(EmulatorFaultsTest, AnAnswerFaultWithAnImpossibleStatusIsRefused)
+{
+    EXPECT_FALSE(s_emulator->setFault(m_switch.id, kStatus, Fault::answer("x", 99)));
+    EXPECT_FALSE(s_emulator->setFault(m_switch.id, kStatus, Fault::answer("x", 600)));
+    EXPECT_EQ(deviceRequest(*s_emulator, m_switch, "GET", kStatus).status, 200);
 }
 
 TEST_F(EmulatorFaultsTest, ServicesTakeFaultsByGuid)

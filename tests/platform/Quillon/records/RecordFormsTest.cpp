@@ -42,7 +42,7 @@ struct Filler {
     {
         ++counter;
         if constexpr (IsRecord<T>::value) {
-            Fields<T>::visit(value, [this](const char*, auto& member) { fill(member); });
+            Fields<T>::visit(value, [this](const char*, auto& member) { this->fill(member); });
         } else if constexpr (IsVector<T>::value) {
             value.clear();
             for (int i = 0; i < 2; ++i) {

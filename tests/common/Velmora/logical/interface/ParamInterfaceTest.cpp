@@ -12,7 +12,7 @@
 #include <thread>
 #include <vector>
 
-#include "LogCapture.h"
+#include "support/LogCapture.h"
 #include "Plinth/Error.h"
 #include "Plinth/StringUtil.h"
 #include "logical/interface/ParamInterface.h"

@@ -1,12 +1,12 @@
 // The first device of a process has batch support but its capability query fails: the walk
-// then asks for -1 results per page. Its own executable, so that the process-wide instance
+// then asks for -1 results per page, and each "MORE" moves the position back by one. Its own executable, so that the process-wide instance
 // is fresh.
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "LogCapture.h"
+#include "support/LogCapture.h"
 #include "WorkStateTestSupport.h"
 #include "logical/interface/WorkStatusInferface.h"
 
@@ -51,6 +51,30 @@ TEST(WorkStatusInferfaceFirstUseTest, FailedCapabilityOnAFreshProcessWalksWithMi
     ASSERT_EQ(log.lines("ERROR").size(), 1u);
     EXPECT_EQ(log.lines("ERROR")[0].message,
               "Failed to Get Switch Work StateEx:[POST /NXRPC/Transfers/Switches/workState/search].Error code is 2-400.");
+
+    // A device that answers such pages with "MORE": each step adds -1, so the position goes
+    // down by one a page until the device says "OK".
+    const auto page = [](const char* status) {
+        return std::string("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<SwitchesWorkStateSearchRes><searchID>x</searchID>"
+                           "<responseStatus>") +
+               status + "</responseStatus><numOfMatches>0</numOfMatches><portList></portList></SwitchesWorkStateSearchRes>\n";
+    };
+    EmulatorProcess::Fault more = EmulatorProcess::Fault::answer(page("MORE"));
+    more.count = 3;
+    ASSERT_TRUE(emulator.setFault(id, kWorkStateSearchPath, more));
+    ASSERT_TRUE(emulator.setFault(id, kWorkStateSearchPath, EmulatorProcess::Fault::answer(page("OK"))));
+    emulator.clearRequestLog();
+    EXPECT_TRUE(access->queryWorkState(state));
+    const std::vector<EmulatorProcess::Request> walk = sentWith(emulator, id, kWorkStateSearch);
+    ASSERT_EQ(walk.size(), 4u);
+    const std::string searchId = sentSearch(walk[0]).searchID;
+    for (size_t i = 0; i < walk.size(); ++i) {
+        const SentSearch step = sentSearch(walk[i]);
+        EXPECT_EQ(step.searchID, searchId) << i;
+        EXPECT_EQ(step.maxResults, -1) << i;
+        EXPECT_EQ(step.searchResultPosition, -static_cast<int>(i)) << i;
+    }
+    emulator.clearFaults();
 }
 
 } // namespace

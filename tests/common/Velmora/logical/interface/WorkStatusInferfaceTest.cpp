@@ -9,7 +9,7 @@
 #include <thread>
 #include <vector>
 
-#include "LogCapture.h"
+#include "support/LogCapture.h"
 #include "WorkStateTestSupport.h"
 #include "logical/interface/ParamInterface.h"
 #include "logical/interface/WorkStatusInferface.h"

@@ -11,7 +11,7 @@
 #include "DeviceStatusOptionBase.h"
 #include "DeviceStatusPages.h"
 #include "DialogTestFleet.h"
-#include "common/Velmora/logical/interface/LogCapture.h"
+#include "support/LogCapture.h"
 #include "ostrand/DeviceManagerDelegate.h"
 
 using velmora::CDeviceStatusFactory;
@@ -103,7 +103,7 @@ protected:
     int poeQueries(const std::string& name)
     {
         int count = 0;
-        for (const std::string& line : DialogTestFleet::instance().requestLines(DialogTestFleet::instance().id(name)))
+        for (const std::string& line : DialogTestFleet::instance().requestLinesOf(DialogTestFleet::instance().id(name)))
             count += line == kPoeCapabilityRequest ? 1 : 0;
         return count;
     }
@@ -346,7 +346,7 @@ TEST_F(DeviceStatusFactoryTest, PagesWithoutTheirOwnHostEntryDoNotLoadThroughIt)
         ++tried;
         DialogTestFleet::instance().emulator().clearRequestLog();
         page->showStatusPublic();
-        EXPECT_TRUE(DialogTestFleet::instance().requestLines(DialogTestFleet::instance().id("poe-switch")).empty())
+        EXPECT_TRUE(DialogTestFleet::instance().requestLinesOf(DialogTestFleet::instance().id("poe-switch")).empty())
             << "key " << key;
     }
     if (!tried)

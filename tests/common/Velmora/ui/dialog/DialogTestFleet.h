@@ -2,17 +2,9 @@
 // The fleet the dialog tests open: one device of every class the dialog knows, switches and
 // routers with and without PoE, controllers with and without AP groups, and devices of the
 // classes that have no rows. Started once per test program.
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <map>
-#include <memory>
-#include <string>
-#include <vector>
-
-#include "support/EmulatorProcess.h"
+#include "support/TestFleet.h"
 
 namespace velmora {
 namespace test {
@@ -41,80 +33,16 @@ inline const char* dialogTestFleetJson()
 }
 
 // One emulator for the whole test program, on the fleet above.
-class DialogTestFleet {
+class DialogTestFleet : public SharedTestFleet<DialogTestFleet> {
 public:
-    static DialogTestFleet& instance()
-    {
-        if (!holder())
-            holder().reset(new DialogTestFleet);
-        return *holder();
-    }
-    // Stops the emulator while Qt still runs (the test program's last step).
-    static void stopIfStarted() { holder().reset(); }
-
-    EmulatorProcess& emulator() { return *m_emulator; }
-    bool isRunning() const { return m_emulator && m_emulator->isRunning(); }
-    std::string error() const { return m_emulator ? m_emulator->errorString() : m_error; }
-
-    // The identifier of the fleet device called `name`; empty when there is none.
-    std::string id(const std::string& name) const
-    {
-        if (!m_emulator)
-            return std::string();
-        for (const EmulatorProcess::Device& device : m_emulator->devices()) {
-            if (device.name == name)
-                return device.id;
-        }
-        return std::string();
-    }
-
-    // Request lines the device answered, oldest first; the authentication challenges
-    // that precede a connection's first request are left out.
-    std::vector<std::string> requestLines(const std::string& deviceId) const
-    {
-        std::vector<std::string> lines;
-        for (const EmulatorProcess::Request& request : m_emulator->requestLog(deviceId)) {
-            if (request.status != 401)
-                lines.push_back(request.requestLine);
-        }
-        return lines;
-    }
-
-private:
-    static std::unique_ptr<DialogTestFleet>& holder()
-    {
-        static std::unique_ptr<DialogTestFleet> fleet;
-        return fleet;
-    }
-
     DialogTestFleet()
+        : SharedTestFleet({"dialog-fleet.json", dialogTestFleetJson()})
     {
-        if (!m_dir.isValid()) {
-            m_error = "no temporary folder";
-            return;
-        }
-        const QString path = QDir(m_dir.path()).filePath("dialog-fleet.json");
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(dialogTestFleetJson()) < 0) {
-            m_error = "cannot write the fleet file";
-            return;
-        }
-        file.close();
-        m_emulator = std::make_unique<EmulatorProcess>(path.toStdString());
     }
-
-    QTemporaryDir m_dir;
-    std::unique_ptr<EmulatorProcess> m_emulator;
-    std::string m_error;
 };
 
-// Stops the fleet after the last test, before the application object goes.
-class DialogTestFleetEnvironment : public ::testing::Environment {
-public:
-    void TearDown() override { DialogTestFleet::stopIfStarted(); }
-};
 inline ::testing::Environment* const kDialogTestFleetEnvironment =
-    ::testing::AddGlobalTestEnvironment(new DialogTestFleetEnvironment);
+    ::testing::AddGlobalTestEnvironment(new TestFleetEnvironment<DialogTestFleet>);
 
 } // namespace test
 } // namespace velmora

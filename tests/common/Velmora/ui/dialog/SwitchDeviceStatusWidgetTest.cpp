@@ -22,7 +22,7 @@
 #include "SwitchDeviceStatusWidget.h"
 #include "TarvexGUIToolkit/ToolPushButton.h"
 #include "TarvexGUIToolkit/TreeView.h"
-#include "common/Velmora/logical/interface/LogCapture.h"
+#include "support/LogCapture.h"
 #include "logical/interface/ParamInterface.h"
 
 using velmora::CDeviceStatusFactory;
@@ -136,7 +136,7 @@ protected:
     static std::string id(const std::string& name) { return DialogTestFleet::instance().id(name); }
     static std::vector<std::string> requests(const std::string& name)
     {
-        return DialogTestFleet::instance().requestLines(id(name));
+        return DialogTestFleet::instance().requestLinesOf(id(name));
     }
 
     std::unique_ptr<CSwitchDeviceStatusWidget> open(const std::string& name)
@@ -506,7 +506,7 @@ ApChoice chooseAp(CSwitchDeviceStatusWidget& dialog, const Quillon::ApInfo& ap, 
     QThreadPool::globalInstance()->waitForDone();
     QCoreApplication::processEvents();
     choice.backShown = !parts.backButton->isHidden();
-    const std::vector<std::string> lines = DialogTestFleet::instance().requestLines(deviceId);
+    const std::vector<std::string> lines = DialogTestFleet::instance().requestLinesOf(deviceId);
     choice.walks = std::count(lines.begin(), lines.end(), kApListRequest);
     return choice;
 }

@@ -457,6 +457,53 @@ TEST_F(FiberPanelStatusWidgetTest, ASlotAboveTwentyOneIsDrawnAtTheFrameCornerAnd
     page.hide();
 }
 
+TEST_F(FiberPanelStatusWidgetTest, CardsTheDeviceReportsInSlotOneAndAboveTwentyOneComeOverTheWire)
+{
+    // A crate that reports a card in the management slot and one in a slot it does not have.
+    const std::string answer = R"({"FiberConvertSlotList": {"slotList": [
+  {"slotId": 1, "receivingCardIP": "192.168.60.101", "receiveCardSerialNumber": "FR1",
+   "transmitterIP": "192.168.60.201", "transmitterSerialNumber": "FT1", "senderName": "Gate"},
+  {"slotId": 25, "receivingCardIP": "192.168.60.125", "receiveCardSerialNumber": "FR25",
+   "transmitterIP": "192.168.60.225", "transmitterSerialNumber": "FT25", "senderName": "Yard"}]}})";
+    ASSERT_TRUE(emulator().setFault(fleet().id("crate"), "/NXRPC/Transfers/FiberConvert/slot*",
+                                    EmulatorProcess::Fault::answer(answer)));
+    CFiberPanelStatusWidget page(nullptr);
+    fleet().open(page, "crate");
+    showStatus(page);
+
+    auto* model = table(page)->model();
+    ASSERT_EQ(model->rowCount(), 2);
+    EXPECT_EQ(model->index(0, 0).data().toString(), "1");
+    EXPECT_EQ(model->index(0, 5).data().toString(), "Gate");
+    EXPECT_EQ(model->index(1, 0).data().toString(), "25");
+    EXPECT_EQ(model->index(1, 1).data().toString(), "192.168.60.125");
+
+    const QImage shot = paint(page);
+    expectCard(shot, slotCorner(page, 1), 1);
+    for (int slot = 2; slot <= kSlotCount; ++slot)
+        expectPlate(shot, slotCorner(page, slot), slot);
+    EXPECT_EQ(CFiberPanelStatusWidgetTestAccess::slotPositions(page).at(25), QPoint(0, 0));
+    expectCard(shot, frameOrigin(page), 25);
+    page.hide();
+}
+
+TEST_F(FiberPanelStatusWidgetTest, AnAnswerWithoutCardsEmptiesTableAndCrate)
+{
+    CFiberPanelStatusWidget page(nullptr);
+    fleet().open(page, "crate");
+    showStatus(page);
+    ASSERT_GT(table(page)->model()->rowCount(), 0);
+
+    ASSERT_TRUE(emulator().setFault(fleet().id("crate"), "/NXRPC/Transfers/FiberConvert/slot*",
+                                    EmulatorProcess::Fault::answer(R"({"FiberConvertSlotList": {"slotList": []}})")));
+    showStatus(page);
+    EXPECT_EQ(table(page)->model()->rowCount(), 0);
+    const QImage shot = paint(page);
+    for (int slot = 1; slot <= kSlotCount; ++slot)
+        expectPlate(shot, slotCorner(page, slot), slot);
+    page.hide();
+}
+
 TEST_F(FiberPanelStatusWidgetTest, WithoutImagesNothingIsPainted)
 {
     CFiberPanelStatusWidget page(nullptr);

@@ -394,6 +394,43 @@ TEST_F(PPPoEStatusWidgetTest, SortedColumnHoldsAcrossRefreshes)
     EXPECT_EQ(modes, modesSorted);
 }
 
+TEST_F(PPPoEStatusWidgetTest, OddValuesFromTheDeviceShowAsFarAsTheyAreKnown)
+{
+    // A router that names a WAN port by text, reports a state and a way online the client
+    // does not know, and leaves a rate out.
+    const std::string answer = R"(<?xml version="1.0" encoding="UTF-8"?>
+<PPPoEStatusList><statusList>
+<PPPoEStatus><id>1</id><ipAddress>100.64.0.2</ipAddress><subnetMask>255.255.255.252</subnetMask>
+<gateway>100.64.0.1</gateway><primaryDNS>223.5.5.5</primaryDNS><secondaryDNS></secondaryDNS>
+<status>connected</status><addressingType>staticIP</addressingType>
+<uplinkRate>1536.0</uplinkRate><downlinkRate>2048.9</downlinkRate></PPPoEStatus>
+<PPPoEStatus><id>wan2</id><ipAddress></ipAddress><status>dialing</status>
+<addressingType>LTE</addressingType><uplinkRate>0</uplinkRate></PPPoEStatus>
+</statusList></PPPoEStatusList>
+)";
+    const Quillon::CSwitchBaseInfo info = baseInfo("enterprise-even");
+    ASSERT_TRUE(emulator().setFault(fleet().id("enterprise-even"), "/NXRPC/System/Network/PPPoE/status",
+                                    EmulatorProcess::Fault::answer(answer)));
+    CPPPoEStatusWidget page(nullptr);
+    fleet().open(page, "enterprise-even");
+    showStatus(page);
+    ASSERT_EQ(table(page)->model()->rowCount(), 2);
+    const QStringList names = sourceColumn(page, 0);
+    EXPECT_EQ(names.value(0), QString::fromStdString(velmora::switchPortName(info, 1)));
+    EXPECT_FALSE(names.value(0).isEmpty());
+    // "wan2" reads as port 0, which the router does not have.
+    EXPECT_EQ(names.value(1), QString::fromStdString(velmora::switchPortName(info, 0)));
+    EXPECT_EQ(sourceColumn(page, 1), QStringList({kConnected, kNotConnected}));
+    EXPECT_EQ(sourceColumn(page, 2), QStringList({"StaticIPdhZgUYfz", ""}));
+    EXPECT_EQ(sourceColumn(page, 3), QStringList({"100.64.0.2", ""}));
+    EXPECT_EQ(sourceColumn(page, 8).value(0),
+              SpeedDataUintconvert::speedDataAdaptiveUintconvert(1536, SpeedDataUintconvert::Kbps));
+    EXPECT_EQ(sourceColumn(page, 9).value(0),
+              SpeedDataUintconvert::speedDataAdaptiveUintconvert(2048, SpeedDataUintconvert::Kbps));
+    EXPECT_EQ(sourceColumn(page, 9).value(1),
+              SpeedDataUintconvert::speedDataAdaptiveUintconvert(0, SpeedDataUintconvert::Kbps));
+}
+
 TEST_F(PPPoEStatusWidgetTest, AFailedReadLeavesTheTableAsItWas)
 {
     CPPPoEStatusWidget page(nullptr);

@@ -22,7 +22,7 @@
 #include "TarvexGUIToolkit/ScrollArea.h"
 #include "TarvexGUIToolkit/TableView.h"
 #include "ui_UiPanelStatusWidget.h"
-#include "common/Velmora/logical/interface/LogCapture.h"
+#include "support/LogCapture.h"
 #include "logical/interface/ParamInterface.h"
 #include "senvia/TopologyComm.h"
 #include "ui/DevicePanelStatus/PanelStatusBase.h"
@@ -400,6 +400,26 @@ TEST_F(DeviceStatusWidgetTest, PoEBudgetOfZeroGivesZeroBarsWithoutDivision)
     EXPECT_EQ(barValue(page, "m_poeProgressBar"), 0);
     EXPECT_EQ(barValue(page, "m_wholePOEProgressBar"), 0);
     EXPECT_EQ(text(page, "memoryPercentLabel"), QString("25%"));
+}
+
+TEST_F(DeviceStatusWidgetTest, ADeviceWithoutMemoryCpuBudgetOrPeakShowsWhatItHas)
+{
+    // A switch that reports neither memory nor CPU, and PoE without a budget or a peak.
+    ASSERT_TRUE(emulator().setFault(fleet().id("poe-switch"), "/NXRPC/System/status",
+                                    EmulatorProcess::Fault::answer(R"(<?xml version="1.0" encoding="UTF-8"?>
+<DeviceStatus><deviceUpTime>10</deviceUpTime><cpuList></cpuList><memoryList></memoryList>
+<poeList><DevicePoeInfo><poeUsed>12.5</poeUsed><poeTotal>0</poeTotal><poePeak>-1</poePeak></DevicePoeInfo></poeList>
+</DeviceStatus>)")));
+    CDeviceStatusWidget page(nullptr);
+    fleet().open(page, "poe-switch");
+    showStatus(page);
+    for (const char* name : {"memoryLabel", "m_memoryProgressBar", "memoryPercentLabel", "cpuLabel", "m_cpuProgressBar",
+                             "cpuPercentLabel", "wholeMachinePOELabel", "m_wholePOEProgressBar", "wholeMachinePOEValue"})
+        EXPECT_FALSE(shown(page, name)) << name;
+    EXPECT_TRUE(shown(page, "PanelUsageLabel"));
+    EXPECT_TRUE(shown(page, "poeLabel"));
+    EXPECT_EQ(text(page, "poePercentLabel"), QString("12.5W/0.0W"));
+    EXPECT_EQ(barValue(page, "m_poeProgressBar"), 0);
 }
 
 TEST_F(DeviceStatusWidgetTest, NegativePeakHidesItsRowButNotTheSection)

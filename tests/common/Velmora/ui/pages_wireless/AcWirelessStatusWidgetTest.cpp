@@ -15,7 +15,7 @@
 #include "TarvexGUIToolkit/ComboBox.h"
 #include "TarvexGUIToolkit/MutilColumnFilterProxyModel.h"
 #include "WirelessPagesTestFleet.h"
-#include "common/Velmora/logical/interface/LogCapture.h"
+#include "support/LogCapture.h"
 
 namespace velmora {
 

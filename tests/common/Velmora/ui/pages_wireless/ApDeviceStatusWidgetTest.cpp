@@ -13,7 +13,7 @@
 #include "RfInfoTab.h"
 #include "TarvexGUIToolkit/TabWidget.h"
 #include "WirelessPagesTestFleet.h"
-#include "common/Velmora/logical/interface/LogCapture.h"
+#include "support/LogCapture.h"
 
 namespace velmora {
 

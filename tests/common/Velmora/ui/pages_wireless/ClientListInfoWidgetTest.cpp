@@ -20,7 +20,7 @@
 #include "TarvexGUIToolkit/MutilColumnFilterProxyModel.h"
 #include "TarvexGUIToolkit/TabWidget.h"
 #include "WirelessPagesTestFleet.h"
-#include "common/Velmora/logical/interface/LogCapture.h"
+#include "support/LogCapture.h"
 
 using velmora::CClientListInfoWidget;
 using velmora::CClientTab;

@@ -11,7 +11,7 @@
 #include "RfInfoTab.h"
 #include "UsageRateChart.h"
 #include "WirelessPagesTestFleet.h"
-#include "common/Velmora/logical/interface/LogCapture.h"
+#include "support/LogCapture.h"
 
 using velmora::CRfInfoTab;
 using velmora::CUsageRateChart;

@@ -3,31 +3,20 @@
 // the steps they share: a page given its device as the dialog gives it, the device's own
 // records read directly, waiting for the event loop, and the widgets of a page by name.
 #include <QCoreApplication>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QLabel>
-#include <QTemporaryDir>
 #include <QThread>
-#include <QThreadPool>
 #include <QTimer>
-#include <cjson/cJSON.h>
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "DeviceStatusOptionBase.h"
-#include "JSONStruct/Switch/SwitchJSONStruct.h"
 #include "Quillon/WirelessRecords.h"
 #include "logical/interface/ParamInterface.h"
-#include "logical/interface/WorkStatusInferface.h"
-#include "ostrand/DeviceManagerDelegate.h"
 #include "QtPrinters.h"
-#include "support/EmulatorProcess.h"
-#include "support/PageAccess.h"
+#include "support/TestFleet.h"
 
 namespace velmora {
 namespace test {
@@ -48,83 +37,11 @@ inline const char* wirelessPagesFleetJson()
 ]})";
 }
 
-class WirelessPagesTestFleet {
+class WirelessPagesTestFleet : public SharedTestFleet<WirelessPagesTestFleet> {
 public:
-    static WirelessPagesTestFleet& instance()
+    WirelessPagesTestFleet()
+        : SharedTestFleet({"wireless-pages-fleet.json", wirelessPagesFleetJson()})
     {
-        if (!holder())
-            holder().reset(new WirelessPagesTestFleet);
-        return *holder();
-    }
-    // Stops the emulator while Qt still runs (the test program's last step).
-    static void stopIfStarted() { holder().reset(); }
-
-    EmulatorProcess& emulator() { return *m_emulator; }
-    bool isRunning() const { return m_emulator && m_emulator->isRunning(); }
-    std::string error() const { return m_emulator ? m_emulator->errorString() : m_error; }
-
-    // The identifier of the fleet device called `name`; empty when there is none.
-    std::string id(const std::string& name) const
-    {
-        if (!m_emulator)
-            return std::string();
-        for (const EmulatorProcess::Device& device : m_emulator->devices()) {
-            if (device.name == name)
-                return device.id;
-        }
-        return std::string();
-    }
-
-    // The names of the fleet devices whose names start with `prefix`, in registry order (the
-    // devices of an entry with a count are numbered by the emulator).
-    std::vector<std::string> namesStartingWith(const std::string& prefix) const
-    {
-        std::vector<std::string> names;
-        for (const EmulatorProcess::Device& device : m_emulator->devices()) {
-            if (device.name.rfind(prefix, 0) == 0)
-                names.push_back(device.name);
-        }
-        return names;
-    }
-
-    std::shared_ptr<tarvex7300::IAbstractDevice> device(const std::string& name) const
-    {
-        const std::string deviceId = id(name);
-        EXPECT_FALSE(deviceId.empty()) << "no fleet device " << name;
-        return ostrand::CDeviceManagerDelegate().createDeviceCopy(deviceId);
-    }
-
-    // The capability record that the registry holds for the device called `name`.
-    protocol::SwitchCapabilities capabilities(const std::string& name) const
-    {
-        protocol::SwitchCapabilities capability;
-        const auto entry = m_emulator->device(id(name));
-        if (!entry)
-            return capability;
-        cJSON* root = cJSON_Parse(entry->capabilitiesJson.c_str());
-        if (root)
-            capability.fromJSON(root);
-        cJSON_Delete(root);
-        return capability;
-    }
-
-    // Gives `page` the device called `name` as the factory does.
-    void open(CDeviceStatusOptionBase& page, const std::string& name) const
-    {
-        page.setDeviceBasicInfo(device(name));
-        page.setDeviceCapbility(capabilities(name));
-    }
-
-    // Request lines that the device answered, oldest first, without the authentication
-    // challenges.
-    std::vector<std::string> requestLines(const std::string& name) const
-    {
-        std::vector<std::string> lines;
-        for (const EmulatorProcess::Request& request : m_emulator->requestLog(id(name))) {
-            if (request.status != 401)
-                lines.push_back(request.requestLine);
-        }
-        return lines;
     }
 
     // The managed APs of a controller as it answers now.
@@ -141,46 +58,12 @@ public:
         EXPECT_TRUE(ParamInterface::getApTerminalInfoList(list, id(name))) << name;
         return list.terminalList;
     }
-
-private:
-    static std::unique_ptr<WirelessPagesTestFleet>& holder()
-    {
-        static std::unique_ptr<WirelessPagesTestFleet> fleet;
-        return fleet;
-    }
-
-    WirelessPagesTestFleet()
-    {
-        if (!m_dir.isValid()) {
-            m_error = "no temporary folder";
-            return;
-        }
-        const QString path = QDir(m_dir.path()).filePath("wireless-pages-fleet.json");
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(wirelessPagesFleetJson()) < 0) {
-            m_error = "cannot write the fleet file";
-            return;
-        }
-        file.close();
-        m_emulator = std::make_unique<EmulatorProcess>(path.toStdString());
-    }
-
-    QTemporaryDir m_dir;
-    std::unique_ptr<EmulatorProcess> m_emulator;
-    std::string m_error;
 };
 
-// Stops the fleet after the last test, before the application object goes.
-class WirelessPagesTestFleetEnvironment : public ::testing::Environment {
-public:
-    void TearDown() override
-    {
-        QThreadPool::globalInstance()->waitForDone();
-        WirelessPagesTestFleet::stopIfStarted();
-    }
-};
 inline ::testing::Environment* const kWirelessPagesTestFleetEnvironment =
-    ::testing::AddGlobalTestEnvironment(new WirelessPagesTestFleetEnvironment);
+    ::testing::AddGlobalTestEnvironment(new TestFleetEnvironment<WirelessPagesTestFleet>);
+
+using WirelessPageTest = FleetPageTest<WirelessPagesTestFleet>;
 
 // Runs the event loop until `done` holds or `timeoutMs` has passed; true when it holds.
 inline bool waitUntil(const std::function<bool()>& done, int timeoutMs = 20000)
@@ -217,34 +100,6 @@ inline QTimer* timerOf(QWidget& page)
     EXPECT_EQ(timers.size(), 1);
     return timers.isEmpty() ? nullptr : timers.front();
 }
-
-// A fixture for page tests: the fleet up, no faults, an empty request log, the device clock
-// stopped so that the page and the test read the same answers.
-class WirelessPageTest : public ::testing::Test {
-protected:
-    static constexpr long long kFrozenTick = 5000;
-
-    void SetUp() override
-    {
-        ASSERT_TRUE(fleet().isRunning()) << fleet().error();
-        emulator().clearFaults();
-        emulator().freezeClock(kFrozenTick);
-        emulator().clearRequestLog();
-    }
-    void TearDown() override
-    {
-        // Reads of the managed AP list may still run on the pool.
-        QThreadPool::globalInstance()->waitForDone();
-        if (fleet().isRunning()) {
-            emulator().clearFaults();
-            emulator().runClock();
-        }
-    }
-
-    static WirelessPagesTestFleet& fleet() { return WirelessPagesTestFleet::instance(); }
-    static EmulatorProcess& emulator() { return fleet().emulator(); }
-    static void showStatus(CDeviceStatusOptionBase& page) { CDeviceStatusOptionBaseTestAccess::showStatus(&page); }
-};
 
 } // namespace test
 } // namespace velmora
