@@ -2,12 +2,13 @@
 # Installs the Debian packages that Velmora builds and runs with, when any is missing.
 # Safe to run again: it asks apt only for what dpkg does not already have.
 set -euo pipefail
+# fonts-wqy-microhei: device and sender names in Chinese (the emulated fleet has some).
 packages=(
   build-essential cmake ninja-build pkg-config ccache clang libclang-rt-14-dev
   qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools
   libboost-thread-dev libboost-system-dev libcjson-dev rapidjson-dev liblog4cxx-dev
   libxml2-dev libcurl4-openssl-dev libcpp-httplib-dev libgtest-dev libgmock-dev
-  libbenchmark-dev valgrind xvfb xauth fonts-dejavu-core ieee-data
+  libbenchmark-dev valgrind xvfb xauth fonts-dejavu-core fonts-wqy-microhei ieee-data
 )
 missing=()
 for p in "${packages[@]}"; do

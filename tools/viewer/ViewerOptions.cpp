@@ -59,10 +59,10 @@ QString viewerUsage()
         "  --list          print the devices of the registry (id, category, model, name)\n"
         "  --device ID     open the status dialog on one device\n"
         "  --snapshot DIR  without a window: click every row of the dialog and write each page\n"
-        "                  to DIR/<device-id>_<row>_<key>.png\n"
+        "                  to DIR/<model>_<name>_<id-start>_<row>_<key>.png\n"
         "  --all           with --snapshot: every device of the registry\n"
         "  --ap-view       on a wireless controller, also open the view of one managed AP\n"
-        "                  (snapshots: <device-id>_ap_<row>_<key>.png, then the way back)\n"
+        "                  (snapshots: <model>_<name>_<id-start>_ap_<row>_<key>.png, then the way back)\n"
         "  --ap IP         the AP of --ap-view (default: the first the controller lists)\n"
         "  --settle MS     event loop time after each click in snapshot mode (default 100)\n"
         "  --registry FILE the device registry (default: VELMORA_REGISTRY or ./velmora-registry.json)\n");

@@ -60,7 +60,12 @@ int listDevices()
 // Every page of one device, and with --ap-view on a controller the AP view and the way back.
 QStringList snapshotDevice(const ostrand::DeviceEntry& device, const ViewerOptions& options, QStringList* problems)
 {
-    const QString prefix = fileSafe(QString::fromStdString(device.id));
+    // Files are named by model and name first, so that a listing reads like the fleet; the
+    // identifier's first block keeps two devices of the same name apart.
+    const QString id = QString::fromStdString(device.id);
+    const QString prefix = fileSafe(QString("%1_%2_%3")
+                                        .arg(QString::fromStdString(device.model), QString::fromUtf8(device.name.c_str()),
+                                             id.section('-', 0, 0)));
     CSwitchDeviceStatusWidget dialog(device.id, capabilitiesFromJson(device.capabilitiesJson), nullptr);
     dialog.show();
     settle(options.settleMs);

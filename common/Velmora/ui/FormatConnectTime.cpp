@@ -1,15 +1,9 @@
 #include "FormatConnectTime.h"
+#include "FormatRunTime.h"
 
 #include <QObject>
 
 namespace velmora {
-
-namespace {
-constexpr int kSecondsPerMinute = 60;
-constexpr int kSecondsPerHour = 3600;
-constexpr int kSecondsPerDay = 86400;
-constexpr int kSecondsPerWeek = 604800;
-} // namespace
 
 QString formatConnectTime(int seconds)
 {

@@ -4,13 +4,6 @@
 
 namespace velmora {
 
-namespace {
-constexpr int kSecondsPerMinute = 60;
-constexpr int kSecondsPerHour = 3600;
-constexpr int kSecondsPerDay = 86400;
-constexpr int kSecondsPerWeek = 604800;
-} // namespace
-
 QString formatRunTime(int seconds)
 {
     const int minutes = (seconds % kSecondsPerHour) / kSecondsPerMinute;

@@ -8,6 +8,8 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
+#include "support/Snapshot.h"
+
 #include "BasicWirelessInfoWidget.h"
 #include "BridgeWanFiberTestFleet.h"
 #include "FiberPanelStatusWidget.h"
@@ -17,33 +19,9 @@ using velmora::test::BridgeWanFiberPageTest;
 
 namespace {
 
-QString snapshotDir()
-{
-    const char* build = std::getenv("VELMORA_BUILD_DIR");
-    QDir dir(build ? QString::fromLocal8Bit(build) : QDir::currentPath());
-    dir.mkpath("snapshots/pages_bridge_wan_fiber");
-    return dir.filePath("snapshots/pages_bridge_wan_fiber");
-}
-
-// Writes the page as it would stand in the dialog's stack and checks the file.
 void snapshot(QWidget& page, const QString& name, const QSize& size)
 {
-    page.resize(size);
-    page.show();
-    QApplication::processEvents();
-    const QPixmap pixmap = page.grab();
-    page.hide();
-    ASSERT_FALSE(pixmap.isNull());
-    const QString path = QDir(snapshotDir()).filePath(name + ".png");
-    ASSERT_TRUE(pixmap.save(path)) << path.toStdString();
-    const QImage image(path);
-    EXPECT_EQ(image.size(), size);
-    const QRgb first = image.pixel(0, 0);
-    bool varied = false;
-    for (int y = 0; y < image.height() && !varied; y += 7)
-        for (int x = 0; x < image.width() && !varied; x += 7)
-            varied = image.pixel(x, y) != first;
-    EXPECT_TRUE(varied) << name.toStdString();
+    velmora::test::writeSnapshot(page, "pages_bridge_wan_fiber", name, size);
 }
 
 class BridgeWanFiberSnapshotTest : public BridgeWanFiberPageTest {};

@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
+#include "support/Snapshot.h"
+
 #include "DeviceStatusWidget.h"
 #include "POEPortStatusWidget.h"
 #include "PortStatisticWidget.h"
@@ -18,34 +20,9 @@ using velmora::test::SwitchPageTest;
 
 namespace {
 
-QString snapshotDir()
-{
-    const char* build = std::getenv("VELMORA_BUILD_DIR");
-    QDir dir(build ? QString::fromLocal8Bit(build) : QDir::currentPath());
-    dir.mkpath("snapshots/pages_switch");
-    return dir.filePath("snapshots/pages_switch");
-}
-
-// Writes the page as it would stand in the dialog's stack and checks the file.
 void snapshot(QWidget& page, const QString& name, const QSize& size = QSize(900, 760))
 {
-    page.resize(size);
-    page.show();
-    QCoreApplication::processEvents();
-    const QPixmap pixmap = page.grab();
-    page.hide();
-    ASSERT_FALSE(pixmap.isNull());
-    const QString path = QDir(snapshotDir()).filePath(name + ".png");
-    ASSERT_TRUE(pixmap.save(path)) << path.toStdString();
-    const QImage image(path);
-    EXPECT_EQ(image.size(), size);
-    // Not a blank picture: more than one colour on it.
-    const QRgb first = image.pixel(0, 0);
-    bool varied = false;
-    for (int y = 0; y < image.height() && !varied; y += 7)
-        for (int x = 0; x < image.width() && !varied; x += 7)
-            varied = image.pixel(x, y) != first;
-    EXPECT_TRUE(varied) << name.toStdString();
+    velmora::test::writeSnapshot(page, "pages_switch", name, size);
 }
 
 class SwitchPagesSnapshotTest : public SwitchPageTest {};

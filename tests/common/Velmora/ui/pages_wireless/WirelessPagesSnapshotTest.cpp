@@ -14,6 +14,8 @@
 #include <optional>
 #include <gtest/gtest.h>
 
+#include "support/Snapshot.h"
+
 #include "ApDeviceStatusWidget.h"
 #include "ApInfoListWidget.h"
 #include "ClientListInfoWidget.h"
@@ -29,30 +31,9 @@ using velmora::test::waitUntil;
 
 namespace {
 
-QString snapshotDir()
-{
-    const char* build = std::getenv("VELMORA_BUILD_DIR");
-    QDir dir(build ? QString::fromLocal8Bit(build) : QDir::currentPath());
-    dir.mkpath("snapshots/pages_wireless");
-    return dir.filePath("snapshots/pages_wireless");
-}
-
-// Writes what the widget shows and checks that the file holds a picture.
 void snapshot(QWidget& widget, const QString& name)
 {
-    QCoreApplication::processEvents();
-    const QPixmap pixmap = widget.grab();
-    ASSERT_FALSE(pixmap.isNull());
-    const QString path = QDir(snapshotDir()).filePath(name + ".png");
-    ASSERT_TRUE(pixmap.save(path)) << path.toStdString();
-    const QImage image(path);
-    ASSERT_FALSE(image.isNull());
-    const QRgb first = image.pixel(0, 0);
-    bool varied = false;
-    for (int y = 0; y < image.height() && !varied; y += 5)
-        for (int x = 0; x < image.width() && !varied; x += 5)
-            varied = image.pixel(x, y) != first;
-    EXPECT_TRUE(varied) << name.toStdString();
+    velmora::test::writeSnapshot(widget, "pages_wireless", name);
 }
 
 struct Dialog {
