@@ -13,6 +13,8 @@
 #include <mutex>
 #include <thread>
 
+#include <unistd.h>
+
 #include "Plinth/Error.h"
 #include "ostrand/DeviceRegistry.h"
 #include "senvia/TopologyComm.h"
@@ -110,9 +112,10 @@ protected:
 
     void useRegistry(const std::string& topology, const std::string& alarm)
     {
-        // A new file each time, so the registry sees the change whatever the clock says.
-        const std::string file = ::testing::TempDir() + "topology-comm-registry-" + std::to_string(m_files.size())
-            + "-" + std::to_string(reinterpret_cast<uintptr_t>(this)) + ".json";
+        // A new file each time, so the registry sees the change whatever the clock says; the
+        // process id keeps tests that CTest runs side by side off each other's files.
+        const std::string file = ::testing::TempDir() + "topology-comm-registry-" + std::to_string(::getpid()) + "-"
+            + std::to_string(m_files.size()) + "-" + std::to_string(reinterpret_cast<uintptr_t>(this)) + ".json";
         std::ofstream(file) << R"({"services":{"topology":")" << topology << R"(","alarm":")" << alarm
                             << R"("},"devices":[]})";
         m_files.push_back(file);
