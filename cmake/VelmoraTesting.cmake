@@ -6,16 +6,16 @@ function(velmora_add_test name)
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE velmora_test_support ${ARG_LIBS})
   velmora_sanitizer_defaults(${name})
-  set(env
-    "QT_QPA_PLATFORM=offscreen"
-    "LSAN_OPTIONS=suppressions=${VELMORA_ROOT}/tests/support/lsan.supp"
-    "VELMORA_BUILD_DIR=${CMAKE_BINARY_DIR}"
-    "VELMORA_LOG_LEVEL=warn")
-  string(REPLACE ";" "\\;" env "${env}")
-  set(props ENVIRONMENT "${env}" TIMEOUT 300)
+  # gtest_discover_tests hands PROPERTIES on as one flat list, so list-valued properties
+  # (ENVIRONMENT, several LABELS) would be cut apart there. The test environment is therefore
+  # set by the shared main (tests/support/test_main.cpp), and a test takes one label.
+  list(LENGTH ARG_LABELS label_count)
+  if(label_count GREATER 1)
+    message(FATAL_ERROR "velmora_add_test(${name}): one label per test program")
+  endif()
+  set(props TIMEOUT 300)
   if(ARG_LABELS)
-    string(REPLACE ";" "\\;" labels "${ARG_LABELS}")
-    list(APPEND props LABELS "${labels}")
+    list(APPEND props LABELS ${ARG_LABELS})
   endif()
   gtest_discover_tests(${name}
     DISCOVERY_TIMEOUT 60
