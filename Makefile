@@ -3,6 +3,9 @@ BUILD      ?= build
 BUILD_ASAN ?= build-asan
 JOBS       ?= $(shell nproc)
 CMAKE_FLAGS ?=
+# Language of the demo and the snapshots: en, zh_CN or keys (`make snapshots VELMORA_LANG=zh_CN`).
+VELMORA_LANG ?= en
+export VELMORA_LANG
 
 .PHONY: demo test deps build build-asan test-unit test-asan snapshots bench clean
 

@@ -4,6 +4,8 @@
 # to PNG files when there is none (or with --snapshot-only). Stops the emulator at the end.
 #
 #     scripts/demo.sh <builddir> [--snapshot-only]
+#
+# VELMORA_LANG chooses the language shown: en (the default), zh_CN, or keys for the raw keys.
 set -euo pipefail
 
 if [ $# -lt 1 ]; then
@@ -22,6 +24,7 @@ demo_dir=$build/demo
 registry=$demo_dir/velmora-registry.json
 snapshots=$build/snapshots
 emulator_log=$demo_dir/emulator.log
+lang=${VELMORA_LANG:-en}
 
 if [ ! -x "$emulator" ]; then
   echo "demo: the device emulator is not built ($emulator); there is nothing to show yet."
@@ -80,12 +83,12 @@ if [ "$snapshot_only" -eq 0 ] && [ -n "${DISPLAY:-}" ]; then
     device=$(printf '%s\n' "$devices" | awk -F'\t' 'NR == 1 { print $1 }')
   fi
   echo "demo: opening the status dialog on $device (close it to end the demo)"
-  "$viewer" --device "$device"
+  "$viewer" --lang "$lang" --device "$device"
 else
   rm -rf "$snapshots"
   mkdir -p "$snapshots"
-  echo "demo: no display; rendering every page of every emulated device"
-  QT_QPA_PLATFORM=offscreen "$viewer" --snapshot "$snapshots" --all --ap-view | grep -v '^wrote ' || true
+  echo "demo: no display; rendering every page of every emulated device (language: $lang)"
+  QT_QPA_PLATFORM=offscreen "$viewer" --lang "$lang" --snapshot "$snapshots" --all --ap-view | grep -v '^wrote ' || true
   count=$(find "$snapshots" -name '*.png' | wc -l)
   echo "demo: $count page snapshots in $snapshots"
 fi

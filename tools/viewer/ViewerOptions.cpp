@@ -1,5 +1,7 @@
 #include "ViewerOptions.h"
 
+#include <QLocale>
+
 namespace velmora {
 namespace viewer {
 
@@ -34,6 +36,11 @@ ViewerOptions parseViewerOptions(const QStringList& arguments)
             options.settleMs = valueOf(i, argument).toInt(&ok);
             if (options.error.isEmpty() && (!ok || options.settleMs < 0))
                 options.error = "--settle needs a number of milliseconds";
+        } else if (argument == "--lang") {
+            options.language = valueOf(i, argument);
+            if (options.error.isEmpty() && options.language != "en" && options.language != "zh_CN" &&
+                options.language != "keys")
+                options.error = "--lang needs en, zh_CN or keys";
         } else if (argument == "--help" || argument == "-h") {
             options.help = true;
         } else {
@@ -49,12 +56,20 @@ ViewerOptions parseViewerOptions(const QStringList& arguments)
     return options;
 }
 
+QString viewerLanguage(const ViewerOptions& options)
+{
+    if (!options.language.isEmpty())
+        return options.language;
+    return QLocale::system().language() == QLocale::Chinese ? QStringLiteral("zh_CN") : QStringLiteral("en");
+}
+
 QString viewerUsage()
 {
     return QStringLiteral(
         "usage: velmora-viewer [--registry FILE] --list\n"
-        "       velmora-viewer [--registry FILE] --device ID [--ap-view [--ap IP]]\n"
-        "       velmora-viewer [--registry FILE] --snapshot DIR (--device ID | --all) [--ap-view [--ap IP]] [--settle MS]\n"
+        "       velmora-viewer [--registry FILE] [--lang LANG] --device ID [--ap-view [--ap IP]]\n"
+        "       velmora-viewer [--registry FILE] [--lang LANG] --snapshot DIR (--device ID | --all) [--ap-view [--ap IP]]\n"
+        "                      [--settle MS]\n"
         "\n"
         "  --list          print the devices of the registry (id, category, model, name)\n"
         "  --device ID     open the status dialog on one device\n"
@@ -65,6 +80,8 @@ QString viewerUsage()
         "                  (snapshots: <model>_<name>_<id-start>_ap_<row>_<key>.png, then the way back)\n"
         "  --ap IP         the AP of --ap-view (default: the first the controller lists)\n"
         "  --settle MS     event loop time after each click in snapshot mode (default 100)\n"
+        "  --lang LANG     en, zh_CN or keys (the raw tr keys); default: the system locale's\n"
+        "                  language, zh_CN for Chinese and en for any other\n"
         "  --registry FILE the device registry (default: VELMORA_REGISTRY or ./velmora-registry.json)\n");
 }
 

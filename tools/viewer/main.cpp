@@ -9,6 +9,7 @@
 #include "DeviceTypeString.h"
 #include "PageSnapshots.h"
 #include "SwitchDeviceStatusWidget.h"
+#include "VelmoraTranslations.h"
 #include "ViewerOptions.h"
 #include "ostrand/DeviceRegistry.h"
 
@@ -174,6 +175,11 @@ int main(int argc, char** argv)
         setenv("VELMORA_REGISTRY", options.registryPath.toLocal8Bit().constData(), 1);
         ostrand::CDeviceRegistry::instance().setPath(options.registryPath.toStdString());
     }
+
+    // Installed before the first widget is made: forms take their texts when they are set up.
+    const QString language = viewerLanguage(options);
+    if (language != "keys" && !installTranslations(language))
+        err() << "velmora-viewer: no translations for " << language << "; showing the keys" << Qt::endl;
 
     if (options.list)
         return listDevices();

@@ -74,11 +74,21 @@ void CToolPushButton::paintEvent(QPaintEvent*)
 
     // A text a little too wide for a fixed-size button is drawn a little smaller rather
     // than cut; only beyond that it is elided.
+    // A font sized in pixels (as style sheets size them) steps by one pixel, else by points.
     QFont textFont = font();
-    const qreal fullSize = textFont.pointSizeF();
+    const bool inPixels = textFont.pixelSize() > 0;
+    const qreal step = inPixels ? 1.0 : kFontStep;
+    auto fontSize = [&textFont, inPixels]() {
+        return inPixels ? static_cast<qreal>(textFont.pixelSize()) : textFont.pointSizeF();
+    };
+    const qreal fullSize = fontSize();
     while (fullSize > 0 && QFontMetrics(textFont).horizontalAdvance(text()) > textRoom &&
-           textFont.pointSizeF() - kFontStep >= fullSize * kSmallestFontScale)
-        textFont.setPointSizeF(textFont.pointSizeF() - kFontStep);
+           fontSize() - step >= fullSize * kSmallestFontScale) {
+        if (inPixels)
+            textFont.setPixelSize(textFont.pixelSize() - 1);
+        else
+            textFont.setPointSizeF(textFont.pointSizeF() - kFontStep);
+    }
     painter.setFont(textFont);
     const QFontMetrics metrics(textFont);
     const QString shownText = metrics.elidedText(text(), Qt::ElideRight, textRoom);
