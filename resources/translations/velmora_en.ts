@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Group</source>
-        <translation>Group</translation>
+        <translation>Grp</translation>
     </message>
 </context>
 <context>
