@@ -732,11 +732,11 @@
     </message>
     <message>
         <source>SignalIntensity</source>
-        <translation>信号强度</translation>
+        <translation>信号</translation>
     </message>
     <message>
         <source>Receive/sendRate</source>
-        <translation>接收/发送速率</translation>
+        <translation>收/发</translation>
     </message>
     <message>
         <source>Distance</source>

@@ -75,6 +75,8 @@ void CToolPushButton::paintEvent(QPaintEvent*)
     // A text a little too wide for a fixed-size button is drawn a little smaller rather
     // than cut; only beyond that it is elided.
     // A font sized in pixels (as style sheets size them) steps by one pixel, else by points.
+    // Widths are compared unrounded, as elidedText() measures: a text whose rounded width just
+    // matches the room would otherwise lose its last letter.
     QFont textFont = font();
     const bool inPixels = textFont.pixelSize() > 0;
     const qreal step = inPixels ? 1.0 : kFontStep;
@@ -82,7 +84,7 @@ void CToolPushButton::paintEvent(QPaintEvent*)
         return inPixels ? static_cast<qreal>(textFont.pixelSize()) : textFont.pointSizeF();
     };
     const qreal fullSize = fontSize();
-    while (fullSize > 0 && QFontMetrics(textFont).horizontalAdvance(text()) > textRoom &&
+    while (fullSize > 0 && QFontMetricsF(textFont).horizontalAdvance(text()) > textRoom &&
            fontSize() - step >= fullSize * kSmallestFontScale) {
         if (inPixels)
             textFont.setPixelSize(textFont.pixelSize() - 1);

@@ -20,6 +20,7 @@
 #include <QThreadPool>
 #include <QTimer>
 #include <cjson/cJSON.h>
+#include <cmath>
 
 #include "DeviceStatusFactory.h"
 #include "Quillon/WirelessRecords.h"
@@ -207,11 +208,13 @@ private:
         const int room = button.width() - 2 * TarvexGUIToolkit::CToolPushButton::kPadding - iconWidth -
                          (iconWidth > 0 ? TarvexGUIToolkit::CToolPushButton::kIconTextSpacing : 0);
         QFont smallest = button.font();
+        // The button steps its font down by one pixel or half a point, to no less than this.
         if (smallest.pixelSize() > 0)
-            smallest.setPixelSize(static_cast<int>(smallest.pixelSize() * kSmallestToolFontScale + 0.999));
+            smallest.setPixelSize(static_cast<int>(std::ceil(smallest.pixelSize() * kSmallestToolFontScale)));
         else
-            smallest.setPointSizeF(smallest.pointSizeF() * kSmallestToolFontScale + 0.5);
-        expectWhole(QFontMetrics(smallest).horizontalAdvance(button.text()), room, button.text(), "button");
+            smallest.setPointSizeF(std::ceil(smallest.pointSizeF() * kSmallestToolFontScale * 2) / 2);
+        expectWhole(static_cast<int>(std::ceil(QFontMetricsF(smallest).horizontalAdvance(button.text()))), room,
+                    button.text(), "button");
     }
 
     void readItemView(const QAbstractItemView& view) const
