@@ -71,6 +71,7 @@ inline ::testing::Environment* const kTranslatedPagesFleetEnvironment =
 } // namespace velmora
 
 using velmora::CSwitchDeviceStatusWidget;
+using velmora::test::sourcePath;
 using velmora::test::TranslatedPagesFleet;
 
 namespace {
@@ -84,11 +85,6 @@ constexpr int kLongKey = 8;
 constexpr double kSmallestToolFontScale = 0.7;
 
 const char* const kLanguages[] = {"en", "zh_CN"};
-
-QString sourcePath(const QString& relative)
-{
-    return QDir(QStringLiteral(VELMORA_SOURCE_ROOT)).filePath(relative);
-}
 
 // What a language's catalogs say: the keys that must not be seen (their text there differs
 // from the key) and the texts of the module (whose labels must show them whole).

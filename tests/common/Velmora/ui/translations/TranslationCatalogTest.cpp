@@ -14,17 +14,13 @@
 
 using velmora::test::catalogSets;
 using velmora::test::readTsCatalog;
+using velmora::test::sourcePath;
 using velmora::test::TsCatalog;
 using velmora::test::TsMessage;
 
 namespace {
 
 constexpr int kLupdateTimeoutMs = 120000;
-
-QString sourcePath(const QString& relative)
-{
-    return QDir(QStringLiteral(VELMORA_SOURCE_ROOT)).filePath(relative);
-}
 
 QString describe(const TsMessage& message)
 {

@@ -1,6 +1,7 @@
 #pragma once
 // Reads a Qt Linguist source catalog (.ts): each message with its context, key, translation
 // and state, as lupdate and the translators left it.
+#include <QDir>
 #include <QFile>
 #include <QString>
 #include <QStringList>
@@ -74,6 +75,14 @@ inline TsCatalog readTsCatalog(const QString& path)
         catalog.error = path + ": " + xml.errorString();
     return catalog;
 }
+
+#ifdef VELMORA_SOURCE_ROOT
+// A path of the source tree (the catalogs are read where they are kept, not from the build).
+inline QString sourcePath(const QString& relative)
+{
+    return QDir(QStringLiteral(VELMORA_SOURCE_ROOT)).filePath(relative);
+}
+#endif
 
 // The catalogs of the module and of the toolkit, each with the folders its keys come from.
 struct CatalogSet {
