@@ -73,10 +73,10 @@ void CToolPushButton::paintEvent(QPaintEvent*)
     const int textRoom = std::max(0, area.width() - iconArea.width() - spacing);
 
     // A text a little too wide for a fixed-size button is drawn a little smaller rather
-    // than cut; only beyond that it is elided.
-    // A font sized in pixels (as style sheets size them) steps by one pixel, else by points.
-    // Widths are compared unrounded, as elidedText() measures: a text whose rounded width just
-    // matches the room would otherwise lose its last letter.
+    // than cut; only beyond that it is elided. A font sized in pixels (as style sheets size
+    // them) steps by one pixel, else by half points. Widths are compared unrounded, as
+    // elidedText() measures them: a text whose rounded width just matches the room would
+    // otherwise lose its last letter.
     QFont textFont = font();
     const bool inPixels = textFont.pixelSize() > 0;
     const qreal step = inPixels ? 1.0 : kFontStep;
@@ -89,7 +89,7 @@ void CToolPushButton::paintEvent(QPaintEvent*)
         if (inPixels)
             textFont.setPixelSize(textFont.pixelSize() - 1);
         else
-            textFont.setPointSizeF(textFont.pointSizeF() - kFontStep);
+            textFont.setPointSizeF(textFont.pointSizeF() - step);
     }
     painter.setFont(textFont);
     const QFontMetrics metrics(textFont);
