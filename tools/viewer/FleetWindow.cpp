@@ -7,7 +7,9 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScreen>
 #include <QWidget>
+#include <algorithm>
 #include <vector>
 
 #include "FleetModel.h"
@@ -23,10 +25,9 @@ namespace viewer {
 
 namespace {
 
-constexpr int kNameColumnWidth = 240;
-constexpr int kClassColumnWidth = 170;
-constexpr int kModelColumnWidth = 120;
-// Each further dialog opens this far right and down of the one before, so none hides another.
+// Dialogs open right of the window, this far from it, each further one this far right and
+// down of the one before, so that none hides another or the list.
+constexpr int kDialogGap = 12;
 constexpr int kCascadeOffset = 40;
 
 } // namespace
@@ -52,9 +53,6 @@ CFleetWindow::CFleetWindow(QWidget* parent)
     TarvexGUIToolkit::CTableView* table = m_pUi->m_pDeviceTable;
     table->setModel(m_pProxyModel);
     table->sortByColumn(CFleetModel::COLUMN_NAME, Qt::AscendingOrder);
-    table->setColumnWidth(CFleetModel::COLUMN_NAME, kNameColumnWidth);
-    table->setColumnWidth(CFleetModel::COLUMN_CLASS, kClassColumnWidth);
-    table->setColumnWidth(CFleetModel::COLUMN_MODEL, kModelColumnWidth);
     table->installEventFilter(this);
 
     connect(table, &QAbstractItemView::doubleClicked, this, &CFleetWindow::onRowActivated);
@@ -87,6 +85,9 @@ void CFleetWindow::reloadRegistry()
         rows.push_back(fleetDeviceRow(device));
     m_pFleetModel->setDevices(rows);
     m_pProxyModel->sort(m_pProxyModel->sortColumn(), m_pProxyModel->sortOrder());
+    // The address column takes the rest of the width.
+    for (int column : {CFleetModel::COLUMN_NAME, CFleetModel::COLUMN_CLASS, CFleetModel::COLUMN_MODEL})
+        m_pUi->m_pDeviceTable->resizeColumnToContents(column);
 
     showProblem(registryProblemMessage(QString::fromStdString(registry.path()), static_cast<int>(devices.size()),
                                        QString::fromStdString(registry.lastError())));
@@ -177,10 +178,22 @@ CSwitchDeviceStatusWidget* CFleetWindow::openDevice(const QString& deviceId)
     m_dialogs.removeAll(QPointer<CSwitchDeviceStatusWidget>());
     const int alreadyOpen = m_dialogs.size();
     m_dialogs.append(dialog);
+    placeDialog(dialog, alreadyOpen);
     dialog->show();
-    if (alreadyOpen > 0)
-        dialog->move(dialog->pos() + QPoint(kCascadeOffset, kCascadeOffset) * alreadyOpen);
     return dialog;
+}
+
+void CFleetWindow::placeDialog(QWidget* dialog, int alreadyOpen) const
+{
+    const QScreen* screen = this->screen();
+    const QRect available = screen ? screen->availableGeometry() : QRect();
+    QPoint position = frameGeometry().topRight() + QPoint(kDialogGap, 0);
+    if (available.isValid()) {
+        // On a narrow screen the dialogs cover the list's right part rather than leave the screen.
+        position.setX(std::max(available.left(), std::min(position.x(), available.right() + 1 - dialog->width())));
+        position.setY(std::max(available.top(), std::min(position.y(), available.bottom() + 1 - dialog->height())));
+    }
+    dialog->move(position + QPoint(kCascadeOffset, kCascadeOffset) * alreadyOpen);
 }
 
 QList<CSwitchDeviceStatusWidget*> CFleetWindow::openDialogs() const

@@ -65,6 +65,8 @@ private Q_SLOTS:
 
 private:
     void showCount();
+    // Moves a new dialog beside the window, after the `alreadyOpen` ones.
+    void placeDialog(QWidget* dialog, int alreadyOpen) const;
     void showProblem(const QString& text);
 
     Ui_UiFleetWindow* m_pUi;
