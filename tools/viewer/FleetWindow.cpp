@@ -25,8 +25,8 @@ namespace viewer {
 
 namespace {
 
-// Dialogs open right of the window, this far from it, each further one this far right and
-// down of the one before, so that none hides another or the list.
+// Dialogs open right of the window, this far from it; each further one this far right and
+// down of the one before, so that every dialog's title stays in sight.
 constexpr int kDialogGap = 12;
 constexpr int kCascadeOffset = 40;
 
