@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# The demo: starts the device emulator with its fleet, then opens the status dialog on the
-# 52-port switch when there is a display, or renders every page of every emulated device
-# to PNG files when there is none (or with --snapshot-only). Stops the emulator at the end.
+# The demo: starts the device emulator with its fleet, then opens the viewer's fleet window
+# on it when there is a display, or renders every page of every emulated device to PNG
+# files when there is none (or with --snapshot-only). Stops the emulator at the end.
 #
 #     scripts/demo.sh <builddir> [--snapshot-only]
 #
@@ -72,18 +72,9 @@ export VELMORA_REGISTRY=$registry
 export VELMORA_LOG_LEVEL=${VELMORA_LOG_LEVEL:-warn}
 
 if [ "$snapshot_only" -eq 0 ] && [ -n "${DISPLAY:-}" ]; then
-  # The viewer lists: id, category, category name, model, name, address. The demo opens
-  # on the 52-port PoE switch QN-1062 (48 electrical, 4 optical ports), else the first switch.
-  devices=$("$viewer" --list)
-  device=$(printf '%s\n' "$devices" | awk -F'\t' '$2 == 120 && $4 == "QN-1062" { print $1; exit }')
-  if [ -z "$device" ]; then
-    device=$(printf '%s\n' "$devices" | awk -F'\t' '$2 == 120 { print $1; exit }')
-  fi
-  if [ -z "$device" ]; then
-    device=$(printf '%s\n' "$devices" | awk -F'\t' 'NR == 1 { print $1 }')
-  fi
-  echo "demo: opening the status dialog on $device (close it to end the demo)"
-  "$viewer" --lang "$lang" --device "$device"
+  echo "demo: opening the fleet window on $("$viewer" --list | wc -l) emulated devices" \
+       "(double-click a device for its status dialog; close the window to end the demo)"
+  "$viewer" --lang "$lang"
 else
   rm -rf "$snapshots"
   mkdir -p "$snapshots"

@@ -48,9 +48,7 @@ ViewerOptions parseViewerOptions(const QStringList& arguments)
         }
     }
     if (options.error.isEmpty() && !options.help && !options.list) {
-        if (options.snapshotDir.isEmpty() && options.deviceId.isEmpty())
-            options.error = "give --list, --device ID or --snapshot DIR";
-        else if (!options.snapshotDir.isEmpty() && options.deviceId.isEmpty() && !options.all)
+        if (!options.snapshotDir.isEmpty() && options.deviceId.isEmpty() && !options.all)
             options.error = "--snapshot needs --device ID or --all";
     }
     return options;
@@ -66,11 +64,14 @@ QString viewerLanguage(const ViewerOptions& options)
 QString viewerUsage()
 {
     return QStringLiteral(
-        "usage: velmora-viewer [--registry FILE] --list\n"
+        "usage: velmora-viewer [--registry FILE] [--lang LANG]\n"
+        "       velmora-viewer [--registry FILE] --list\n"
         "       velmora-viewer [--registry FILE] [--lang LANG] --device ID [--ap-view [--ap IP]]\n"
         "       velmora-viewer [--registry FILE] [--lang LANG] --snapshot DIR (--device ID | --all) [--ap-view [--ap IP]]\n"
         "                      [--settle MS]\n"
         "\n"
+        "  (no option)     the fleet window: the devices of the registry, searchable and sortable;\n"
+        "                  double-click or Enter opens a device's status dialog, several at once\n"
         "  --list          print the devices of the registry (id, category, model, name)\n"
         "  --device ID     open the status dialog on one device\n"
         "  --snapshot DIR  without a window: click every row of the dialog and write each page\n"

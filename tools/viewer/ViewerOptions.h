@@ -10,7 +10,7 @@ struct ViewerOptions {
     bool list = false;             // --list: print the registry's devices
     bool all = false;              // --all: every device of the registry (snapshots)
     bool apView = false;           // --ap-view: also the view of one AP managed by a controller
-    QString deviceId;              // --device ID
+    QString deviceId;              // --device ID; without it (and without --list) the fleet window opens
     QString snapshotDir;           // --snapshot DIR: render pages to PNG, no window
     QString registryPath;          // --registry FILE, instead of VELMORA_REGISTRY
     QString apIp;                  // --ap IP: the AP to open in the AP view (default: the first)

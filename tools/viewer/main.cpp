@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "DeviceTypeString.h"
+#include "FleetWindow.h"
 #include "PageSnapshots.h"
 #include "SwitchDeviceStatusWidget.h"
 #include "VelmoraTranslations.h"
@@ -145,6 +146,17 @@ int openDialog(QApplication& app, const ViewerOptions& options)
     return app.exec();
 }
 
+int openFleetWindow(QApplication& app)
+{
+    if (QGuiApplication::platformName() == "offscreen") {
+        err() << "velmora-viewer: no display to open the fleet window on; use --list or --snapshot DIR" << Qt::endl;
+        return 2;
+    }
+    CFleetWindow window;
+    window.show();
+    return app.exec();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -185,5 +197,7 @@ int main(int argc, char** argv)
         return listDevices();
     if (!options.snapshotDir.isEmpty())
         return takeSnapshots(options);
+    if (options.deviceId.isEmpty())
+        return openFleetWindow(app);
     return openDialog(app, options);
 }
