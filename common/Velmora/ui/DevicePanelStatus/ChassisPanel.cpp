@@ -43,6 +43,7 @@ void CChassisPanel::showPanelStatus()
 
 void CChassisPanel::applySlots(const Quillon::SwitchSlotInfolList& list)
 {
+    rememberSlots(list);
     for (const Quillon::SwitchSlotInfo& slot : list.slotList) {
         PortKind kind;
         if (slot.boardType == "mainBoard")

@@ -118,6 +118,7 @@ void CLayoutPanel::showPanelStatus()
 
 void CLayoutPanel::applyWorkState(const Quillon::SwitchesWorkState& state)
 {
+    rememberPortStates(state);
     const bool tracksKinds = m_layout.alarmKinds.empty();
     for (const Quillon::SwitchesWorkStateItem& item : state.portList) {
         const unsigned port = static_cast<unsigned>(item.portId);

@@ -115,6 +115,9 @@ void CSwitchLogicalPanel::setPanel(const Quillon::Panel& reported, int deviceCat
 {
     panel = reported;
     category = deviceCategory;
+    for (const Quillon::PanelCell& cell : panel.cellList)
+        if (cell.cellType == "port")
+            rememberPortLabel(static_cast<unsigned>(cell.portId), QString::fromStdString(cell.label));
     std::map<int, int>& sizes = logicalSizes[category];
     rowHeight = sizes[kPortHeight];
     borderWidth = sizes[kBorderWidth];
@@ -140,6 +143,7 @@ void CSwitchLogicalPanel::setPanel(const Quillon::Panel& reported, int deviceCat
 
 void CSwitchLogicalPanel::applyWorkState(const Quillon::SwitchesWorkState& state)
 {
+    rememberPortStates(state);
     directionFromCells = state.portOrder.empty();
     if (!directionFromCells)
         oddPortsUp = state.portOrder == "portNO1";
@@ -224,6 +228,7 @@ void CSwitchLogicalPanel::renderPanelPixmap()
     };
 
     QPainter painter(&panelPixmap);
+    portCells.clear();
     int x = kSideMargin;
     for (int i = 0; i <= cells - rows; i += rows) {
         // A column is as wide as a port cell unless it holds a border or a space.
@@ -261,6 +266,7 @@ void CSwitchLogicalPanel::renderPanelPixmap()
                 painter.setPen(Qt::NoPen);
                 painter.setBrush(kCellColor);
                 painter.drawRect(QRect(x, y, cellWidth, rowHeight));
+                portCells[static_cast<unsigned>(cell.portId)] = QRect(x, y, cellWidth, rowHeight);
                 bool up;
                 if (directionFromCells)
                     up = cell.direction == "up";
@@ -312,6 +318,37 @@ bool CSwitchLogicalPanel::eventFilter(QObject* watched, QEvent* event)
     if (repaint)
         update();
     return QObject::eventFilter(watched, event);
+}
+
+bool CSwitchLogicalPanel::portAt(const QPoint& pos, unsigned& port) const
+{
+    if (panelPixmap.isNull())
+        return false;
+    // The same geometry as paintEvent: centred at full size, or shrunk to the frame's width.
+    const QSize frameSize = ui->m_pPanelPanelFrame->size();
+    const QPoint framePos = ui->m_pPanelPanelFrame->pos();
+    const QSize imageSize = panelPixmap.size() / panelPixmap.devicePixelRatio();
+    QPointF inImage;
+    if (imageSize.width() <= frameSize.width()) {
+        const QPoint origin = framePos + QPoint((frameSize.width() - imageSize.width()) >> 1,
+                                                (frameSize.height() - imageSize.height()) >> 1);
+        inImage = QPointF(pos - origin);
+    } else {
+        const double ratio = static_cast<double>(frameSize.width()) / imageSize.width();
+        const int scaledHeight = static_cast<int>(std::ceil(frameSize.height() * ratio));
+        if (scaledHeight <= 0 || imageSize.height() <= 0)
+            return false;
+        const int scaledY = framePos.y() + ((frameSize.height() - scaledHeight) >> 1);
+        inImage = QPointF((pos.x() - framePos.x()) / ratio,
+                          static_cast<double>(pos.y() - scaledY) * imageSize.height() / scaledHeight);
+    }
+    for (const auto& cell : portCells) {
+        if (QRectF(cell.second).contains(inImage)) {
+            port = cell.first;
+            return true;
+        }
+    }
+    return false;
 }
 
 void CSwitchLogicalPanel::paintEvent(QPaintEvent* event)
