@@ -9,6 +9,7 @@
 #include <QToolTip>
 
 #include "Quillon/SwitchRecords.h"
+#include "ui/DevicePanelStatus/PanelResources.h"
 
 #include "ui_PanelStatusBase.h"
 
@@ -18,12 +19,22 @@ namespace {
 // Size of the logo strip, whatever the SVG's own size is.
 constexpr double kLogoWidth = 48.0;
 constexpr double kLogoHeight = 7.0;
+// The legend icons the form shows.
+const char kElectricalLegendImage[] = ":/Tarvex7300/Velmora/Images/SwitchDevice/port_electrical_positive_unconnected.png";
+const char kOpticalLegendImage[] = ":/Tarvex7300/Velmora/Images/SwitchDevice/port_optical_unconnected.png";
+const char kFiberOpticalLegendImage[] = ":/Tarvex7300/Velmora/Images/FiberDevice/optical_port.png";
 } // namespace
 
 CPanelStatusBase::CPanelStatusBase(QWidget* parent)
     : QWidget(parent), ui(new Ui::UiPanelStatusBase)
 {
     ui->setupUi(this);
+    // The form names the 1x legend icons; a dense screen gets their twins.
+    if (artRatio() > 1) {
+        ui->label->setPixmap(loadArt(kElectricalLegendImage));
+        ui->optionalIconLabel->setPixmap(loadArt(kOpticalLegendImage));
+        ui->fiberOptionalIconLabel->setPixmap(loadArt(kFiberOpticalLegendImage));
+    }
 }
 
 CPanelStatusBase::~CPanelStatusBase()

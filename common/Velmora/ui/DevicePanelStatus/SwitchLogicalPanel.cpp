@@ -12,6 +12,7 @@
 #include "logical/interface/ParamInterface.h"
 #include "logical/interface/WorkStatusInferface.h"
 #include "ui/DevicePanelStatus/PanelLayouts.h"
+#include "ui/DevicePanelStatus/PanelResources.h"
 #include "ui/DevicePanelStatus/PartPixmap.h"
 #include "ui_PanelStatusBase.h"
 
@@ -78,12 +79,13 @@ void CSwitchLogicalPanel::initPixmaps()
         for (int deviceCategory : set.categories) {
             std::map<int, QPixmap>& images = logicalPixmaps[deviceCategory];
             for (const layouts::Image& image : set.images)
-                images[image.id] = QPixmap(QString::fromStdString(layouts::resourcePath(image.path)));
+                images[image.id] = loadArt(QString::fromStdString(layouts::resourcePath(image.path)));
+            // Sizes in device-independent pixels, whatever density the images were drawn for.
             std::map<int, int>& sizes = logicalSizes[deviceCategory];
-            sizes[kPortWidth] = images[0].width();
-            sizes[kPortHeight] = images[0].height();
-            sizes[kBorderWidth] = images[kOrderRight].width();
-            sizes[kBorderHeight] = images[kOrderRight].height();
+            sizes[kPortWidth] = logicalSize(images[0]).width();
+            sizes[kPortHeight] = logicalSize(images[0]).height();
+            sizes[kBorderWidth] = logicalSize(images[kOrderRight]).width();
+            sizes[kBorderHeight] = logicalSize(images[kOrderRight]).height();
         }
     }
 }
@@ -137,7 +139,10 @@ void CSwitchLogicalPanel::setPanel(const Quillon::Panel& reported, int deviceCat
         else if (type == "septalSpace")
             width += kSeptalWidth;
     }
-    panelPixmap = QPixmap(width + 2 * kSideMargin, kImageHeight);
+    // Drawn for the screen's density; every coordinate stays in device-independent pixels.
+    const int ratio = artRatio();
+    panelPixmap = QPixmap(QSize(width + 2 * kSideMargin, kImageHeight) * ratio);
+    panelPixmap.setDevicePixelRatio(ratio);
     panelPixmap.fill(kPlateColor);
 }
 
@@ -355,18 +360,20 @@ void CSwitchLogicalPanel::paintEvent(QPaintEvent* event)
 {
     const QSize frameSize = ui->m_pPanelPanelFrame->size();
     const QPoint framePos = ui->m_pPanelPanelFrame->pos();
-    const int imageWidth = panelPixmap.width();
+    // Sizes in device-independent pixels; `density` is what the image was drawn for.
+    const qreal density = panelPixmap.devicePixelRatio();
+    const int imageWidth = logicalSize(panelPixmap).width();
     QPainter painter(this);
     if (imageWidth <= frameSize.width()) {
         painter.drawPixmap(framePos + QPoint((frameSize.width() - imageWidth) >> 1,
-                                             (frameSize.height() - panelPixmap.height()) >> 1),
+                                             (frameSize.height() - logicalSize(panelPixmap).height()) >> 1),
                            panelPixmap);
     } else {
         const double ratio = static_cast<double>(frameSize.width()) / imageWidth;
-        const QPixmap scaled =
-            panelPixmap.scaled(frameSize.width(), static_cast<int>(std::ceil(frameSize.height() * ratio)),
-                               Qt::IgnoreAspectRatio, Qt::FastTransformation);
-        const int scaledY = framePos.y() + ((frameSize.height() - scaled.height()) >> 1);
+        const QSize scaledSize(frameSize.width(), static_cast<int>(std::ceil(frameSize.height() * ratio)));
+        QPixmap scaled = panelPixmap.scaled(scaledSize * density, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+        scaled.setDevicePixelRatio(density);
+        const int scaledY = framePos.y() + ((frameSize.height() - scaledSize.height()) >> 1);
         painter.drawPixmap(framePos.x(), scaledY, scaled);
         if (!hovering) {
             partPixmap->hide();
@@ -375,14 +382,17 @@ void CSwitchLogicalPanel::paintEvent(QPaintEvent* event)
             const int side = frameSize.height();
             const int half = side / 2;
             int left = std::max(mouseX - half, framePos.x());
-            if (mouseX + half > framePos.x() + scaled.width())
-                left = framePos.x() - side + scaled.width();
-            painter.fillRect(QRect(left, scaledY, side, scaled.height()), kMagnifierShade);
+            if (mouseX + half > framePos.x() + scaledSize.width())
+                left = framePos.x() - side + scaledSize.width();
+            painter.fillRect(QRect(left, scaledY, side, scaledSize.height()), kMagnifierShade);
             const int sourceSide = static_cast<int>(side / ratio);
             QRect source(static_cast<int>(left / ratio), 0, sourceSide, sourceSide);
             if (source.x() + source.width() > imageWidth)
                 source.moveLeft(static_cast<int>(imageWidth - side / ratio));
-            partPixmap->setPixmap(panelPixmap.copy(source));
+            // copy() counts device pixels.
+            QPixmap part = panelPixmap.copy(QRect(source.topLeft() * density, source.size() * density));
+            part.setDevicePixelRatio(density);
+            partPixmap->setPixmap(part);
             partPixmap->move(ui->m_pPanelPanelFrame->mapToGlobal(QPoint(0, 0)) +
                              QPoint(mouseX - partPixmap->width() / 2, -partPixmap->height()));
             partPixmap->show();
