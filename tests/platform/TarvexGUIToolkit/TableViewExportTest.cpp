@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -107,6 +108,18 @@ TEST_F(TableViewExport, CopyPutsHeaderAndSelectedRowsTabSeparatedOnTheClipboard)
                                                          "say \"hi\"\t10.0.0.1\ttwo lines\n"));
     view.CopyAction()->trigger();
     EXPECT_EQ(QApplication::clipboard()->text(), view.SelectedRowsText());
+}
+
+TEST_F(TableViewExport, CopyShortcutOnTheFocusedTableCopiesTheRows)
+{
+    view.show();
+    QApplication::setActiveWindow(&view);
+    view.setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    selectRow(0);
+    QApplication::clipboard()->setText("before");
+    QTest::keySequence(&view, QKeySequence(QKeySequence::Copy));
+    EXPECT_EQ(QApplication::clipboard()->text(), QString("Name\tIP\tNote\ncore, west\t10.0.0.3\track 1\n"));
 }
 
 TEST_F(TableViewExport, CopyWithoutSelectionLeavesTheClipboardAlone)

@@ -213,7 +213,7 @@ QString CPanelStatusBase::portToolTip(unsigned port) const
     return lines.join(QLatin1Char('\n'));
 }
 
-bool CPanelStatusBase::portAt(const QPoint& pos, unsigned& port) const
+bool CPanelStatusBase::portAt(const QPoint& pos, unsigned& port, QRect& area) const
 {
     const QPoint origin = frameOrigin();
     // Later ports are drawn over earlier ones, so the last hit is the one seen.
@@ -222,8 +222,10 @@ bool CPanelStatusBase::portAt(const QPoint& pos, unsigned& port) const
         if (position == portPositions.end() || !entry->second || entry->second->isNull())
             continue;
         const QSizeF size = QSizeF(entry->second->size()) / entry->second->devicePixelRatioF();
-        if (QRectF(QPointF(origin + position->second), size).contains(pos)) {
+        const QRectF drawn(QPointF(origin + position->second), size);
+        if (drawn.contains(pos)) {
             port = entry->first;
+            area = drawn.toAlignedRect();
             return true;
         }
     }
@@ -236,7 +238,8 @@ bool CPanelStatusBase::event(QEvent* event)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     unsigned port = 0;
-    const QString text = portAt(help->pos(), port) ? portToolTip(port) : QString();
+    QRect area;
+    const QString text = portAt(help->pos(), port, area) ? portToolTip(port) : QString();
     if (text.isEmpty()) {
         QToolTip::hideText();
         event->ignore();
@@ -246,7 +249,7 @@ bool CPanelStatusBase::event(QEvent* event)
     QToolTip::showText(help->globalPos(),
                        QStringLiteral("<p style='white-space:pre'>%1</p>")
                            .arg(text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br/>"))),
-                       this);
+                       this, area);
     return true;
 }
 

@@ -77,9 +77,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     // Shows portToolTip() of the port under the mouse.
     bool event(QEvent* event) override;
-    // The port drawn at `pos` (this widget's coordinates); false when there is none. The base
-    // looks through the port images where paintEvent draws them.
-    virtual bool portAt(const QPoint& pos, unsigned& port) const;
+    // The port drawn at `pos` (this widget's coordinates) and the area it covers there; false
+    // when there is none. The base looks through the port images where paintEvent draws them.
+    virtual bool portAt(const QPoint& pos, unsigned& port, QRect& area) const;
 
     // Keep a state answer for the tooltips; the families call these where they apply one.
     void rememberPortStates(const Quillon::SwitchesWorkState& state);

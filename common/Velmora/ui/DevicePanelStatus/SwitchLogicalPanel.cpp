@@ -325,7 +325,7 @@ bool CSwitchLogicalPanel::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-bool CSwitchLogicalPanel::portAt(const QPoint& pos, unsigned& port) const
+bool CSwitchLogicalPanel::portAt(const QPoint& pos, unsigned& port, QRect& area) const
 {
     if (panelPixmap.isNull())
         return false;
@@ -333,23 +333,33 @@ bool CSwitchLogicalPanel::portAt(const QPoint& pos, unsigned& port) const
     const QSize frameSize = ui->m_pPanelPanelFrame->size();
     const QPoint framePos = ui->m_pPanelPanelFrame->pos();
     const QSize imageSize = panelPixmap.size() / panelPixmap.devicePixelRatio();
+    // From image to widget coordinates: a scale in each direction and an offset.
     QPointF inImage;
+    double scaleX = 1.0;
+    double scaleY = 1.0;
+    QPointF offset;
     if (imageSize.width() <= frameSize.width()) {
         const QPoint origin = framePos + QPoint((frameSize.width() - imageSize.width()) >> 1,
                                                 (frameSize.height() - imageSize.height()) >> 1);
         inImage = QPointF(pos - origin);
+        offset = QPointF(origin);
     } else {
         const double ratio = static_cast<double>(frameSize.width()) / imageSize.width();
         const int scaledHeight = static_cast<int>(std::ceil(frameSize.height() * ratio));
         if (scaledHeight <= 0 || imageSize.height() <= 0)
             return false;
         const int scaledY = framePos.y() + ((frameSize.height() - scaledHeight) >> 1);
-        inImage = QPointF((pos.x() - framePos.x()) / ratio,
-                          static_cast<double>(pos.y() - scaledY) * imageSize.height() / scaledHeight);
+        scaleX = ratio;
+        scaleY = static_cast<double>(scaledHeight) / imageSize.height();
+        offset = QPointF(framePos.x(), scaledY);
+        inImage = QPointF((pos.x() - offset.x()) / scaleX, (pos.y() - offset.y()) / scaleY);
     }
     for (const auto& cell : portCells) {
         if (QRectF(cell.second).contains(inImage)) {
             port = cell.first;
+            const QRectF c(cell.second);
+            area = QRectF(offset + QPointF(c.x() * scaleX, c.y() * scaleY), QSizeF(c.width() * scaleX, c.height() * scaleY))
+                       .toAlignedRect();
             return true;
         }
     }

@@ -46,7 +46,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     // The port under `pos` in the drawn (and perhaps shrunk) image: the port the magnifier
     // shows under the mouse.
-    bool portAt(const QPoint& pos, unsigned& port) const override;
+    bool portAt(const QPoint& pos, unsigned& port, QRect& area) const override;
 
     // The layout half of showPanelStatus(): sizes, width and a blank image for `panel`.
     void setPanel(const Quillon::Panel& panel, int category);
