@@ -214,7 +214,7 @@ qreal cornerRadius(Family family)
 
 } // namespace
 
-QImage drawFrame(const std::vector<FrameUse>& uses)
+QImage drawFrame(const std::vector<FrameUse>& uses, int ratio)
 {
     const PanelLayout& main = *uses.front().layout;
     const Family family = main.family;
@@ -270,11 +270,12 @@ QImage drawFrame(const std::vector<FrameUse>& uses)
         height += kPlateBand;
     }
 
-    QImage img(width, height, QImage::Format_ARGB32_Premultiplied);
+    QImage img(width * ratio, height * ratio, QImage::Format_ARGB32_Premultiplied);
+    img.setDevicePixelRatio(ratio);
     img.fill(Qt::transparent);
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing, true);
-    const QRect all = img.rect();
+    const QRect all(0, 0, width, height);
     p.setPen(QColor(0x12, 0x14, 0x16));
     p.setBrush(chassisGradient(all, family));
     const qreal radius = cornerRadius(family);

@@ -14,7 +14,8 @@ struct FrameUse {
     velmora::layouts::Frame frame;
 };
 
-// The frame image for all its uses; the first use decides the look and the plate.
-QImage drawFrame(const std::vector<FrameUse>& uses);
+// The frame image for all its uses; the first use decides the look and the plate. Drawn for
+// `ratio` device pixels per device-independent pixel (2 for the "@2x" twin).
+QImage drawFrame(const std::vector<FrameUse>& uses, int ratio = 1);
 
 } // namespace artgen

@@ -17,10 +17,12 @@ QColor colorOf(PortState state)
     return QColor(QRgb(stateColor(state)));
 }
 
-QImage blank(Shape shape)
+QImage blank(Shape shape, int ratio)
 {
     const Size s = shapeSize(shape);
-    QImage img(s.width, s.height, QImage::Format_ARGB32_Premultiplied);
+    QImage img(s.width * ratio, s.height * ratio, QImage::Format_ARGB32_Premultiplied);
+    // Painters on the image then work in device-independent pixels.
+    img.setDevicePixelRatio(ratio);
     img.fill(Qt::transparent);
     return img;
 }
@@ -178,11 +180,12 @@ void legendGlyph(QPainter& p, Shape shape)
 
 } // namespace
 
-QImage drawImage(Shape shape, PortState state)
+QImage drawImage(Shape shape, PortState state, int ratio)
 {
-    QImage img = blank(shape);
+    QImage img = blank(shape, ratio);
     QPainter p(&img);
-    const QRect r = img.rect();
+    const Size size = shapeSize(shape);
+    const QRect r(0, 0, size.width, size.height);
     const QColor c = colorOf(state);
     switch (shape) {
     case Shape::MidElectrical:

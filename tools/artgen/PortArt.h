@@ -10,8 +10,9 @@
 
 namespace artgen {
 
-// A raster image of `shape` in `state`, at shapeSize(shape).
-QImage drawImage(velmora::layouts::Shape shape, velmora::layouts::PortState state);
+// A raster image of `shape` in `state`, at shapeSize(shape) in device-independent pixels,
+// drawn for `ratio` device pixels per such pixel (2 for the "@2x" twin).
+QImage drawImage(velmora::layouts::Shape shape, velmora::layouts::PortState state, int ratio = 1);
 
 // The SVG text of `shape` in `state`; `bridgeLook` for the bridge category's set.
 QByteArray drawSvg(velmora::layouts::Shape shape, velmora::layouts::PortState state, bool bridgeLook);

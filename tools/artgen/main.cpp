@@ -4,6 +4,8 @@
 //   velmora-artgen --out <dir> --qrc <file> [--expect <list>]
 //
 // Files go to <dir>/<resource path>, e.g. <dir>/Tarvex7300/Velmora/Images/SwitchDevice/x.png.
+// Every PNG gets a twin drawn at twice the density from the same tables, x@2x.png beside it,
+// for dense screens; SVGs are drawn at any density from their vector form.
 // With --expect, the list of resource paths the build expects (one per line, without ":/")
 // must equal the set drawn; a difference is an error, so the build and the tables can't drift.
 // The output is deterministic: the same tables give the same bytes.
@@ -90,6 +92,12 @@ bool writeBytes(const QString& fileName, const QByteArray& bytes)
         return false;
     file.write(bytes);
     return file.commit();
+}
+
+// The name of the twin drawn at density 2: "x@2x.png" for "x.png".
+QString twinName(const QString& fileName)
+{
+    return fileName.left(fileName.size() - 4) + QStringLiteral("@2x.png");
 }
 
 bool writeImage(const QString& fileName, QImage image)
@@ -188,10 +196,12 @@ int main(int argc, char** argv)
         bool written = false;
         switch (job.kind) {
         case Job::FrameImage:
-            written = writeImage(fileName, artgen::drawFrame(job.uses));
+            written = writeImage(fileName, artgen::drawFrame(job.uses)) &&
+                      writeImage(twinName(fileName), artgen::drawFrame(job.uses, 2));
             break;
         case Job::Raster:
-            written = writeImage(fileName, artgen::drawImage(job.shape, job.state));
+            written = writeImage(fileName, artgen::drawImage(job.shape, job.state)) &&
+                      writeImage(twinName(fileName), artgen::drawImage(job.shape, job.state, 2));
             break;
         case Job::Svg:
             written = writeBytes(fileName, artgen::drawSvg(job.shape, job.state, job.bridgeLook));
@@ -207,8 +217,13 @@ int main(int argc, char** argv)
     const QDir qrcDir = QFileInfo(qrcFile).absoluteDir();
     QByteArray qrc = "<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n<qresource prefix=\"/\">\n";
     for (const auto& entry : jobs) {
-        const QString file = qrcDir.relativeFilePath(out.absoluteFilePath(entry.first));
-        qrc += QStringLiteral("  <file alias=\"%1\">%2</file>\n").arg(xmlEscaped(entry.first), xmlEscaped(file)).toUtf8();
+        QStringList keys = {entry.first};
+        if (entry.second.kind != Job::Svg)
+            keys << twinName(entry.first);
+        for (const QString& key : keys) {
+            const QString file = qrcDir.relativeFilePath(out.absoluteFilePath(key));
+            qrc += QStringLiteral("  <file alias=\"%1\">%2</file>\n").arg(xmlEscaped(key), xmlEscaped(file)).toUtf8();
+        }
     }
     qrc += "</qresource>\n</RCC>\n";
     if (!writeBytes(qrcFile, qrc)) {

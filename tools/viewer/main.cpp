@@ -172,6 +172,10 @@ int main(int argc, char** argv)
     if (!std::getenv("QT_QPA_PLATFORM") && (!needsDisplay || !hasDisplay))
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
     g_qtMessageHandler = qInstallMessageHandler(quietOffscreenNotes);
+    // Sharp on dense screens: Qt scales by the screen's ratio and the module picks its "@2x"
+    // images (QT_SCALE_FACTOR=2 gives the same offscreen, for snapshots).
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication app(argc, argv);
     const ViewerOptions options = parseViewerOptions(app.arguments());
     if (options.help) {

@@ -20,6 +20,7 @@
 #include "TarvexGUIToolkit/StringConvert.h"
 #include "TarvexGUIToolkit/TabWidget.h"
 #include "logical/interface/ParamInterface.h"
+#include "ui/DevicePanelStatus/PanelResources.h"
 
 namespace velmora {
 
@@ -129,7 +130,7 @@ void CClientListInfoWidget::initNoDataFrame()
         m_pNoDataPixLabel->setObjectName("m_pNoDataPixLabel");
         m_pNoDataPixLabel->setMinimumSize(kNoDataImageMinimum);
         m_pNoDataPixLabel->setAlignment(Qt::AlignCenter);
-        m_pNoDataPixLabel->setPixmap(QPixmap(kNoDataImage));
+        m_pNoDataPixLabel->setPixmap(loadArt(kNoDataImage));
         grid->addWidget(m_pNoDataPixLabel, kNoDataImageRow, kNoDataColumn);
     }
     m_pNoDataTextLabel = new (std::nothrow) QLabel(m_pNoDataFrame);

@@ -31,14 +31,44 @@ void CClientModel::setClientInfo(const std::vector<ClientInfo>& rows)
         auto* index = new TarvexGUIToolkit::CStandardItem();
         index->setData(++number, Qt::DisplayRole); // a number, so that it sorts as one
         items << index;
-        items << new TarvexGUIToolkit::CStandardItem(row.strMac);
+        auto* mac = new TarvexGUIToolkit::CStandardItem(row.strMac);
+        items << mac;
         items << new TarvexGUIToolkit::CStandardItem(row.strIp);
-        items << new TarvexGUIToolkit::CStandardItem(row.strType.isEmpty() ? QString::fromLatin1(kNoType)
-                                                                           : row.strType);
+        // The type keeps what the vendor look-up gave; the tooltip says why there is none.
+        auto* type = new TarvexGUIToolkit::CStandardItem(row.strType.isEmpty() ? QString::fromLatin1(kNoType)
+                                                                               : row.strType);
+        items << type;
+        const QString tip = privateAddressToolTip(row.strMac);
+        if (!tip.isEmpty()) {
+            mac->setToolTip(tip);
+            type->setToolTip(tip);
+        }
         for (const QString* text : {&row.strRssi, &row.strSendRate, &row.strReceiveRate, &row.strConnectTime})
             items << new TarvexGUIToolkit::CStandardItem(*text);
         appendRow(items);
     }
+}
+
+bool CClientModel::isPrivateAddress(const QString& mac)
+{
+    int digits = 0;
+    for (const QChar c : mac) {
+        if (c == QLatin1Char(':') || c == QLatin1Char('-') || c == QLatin1Char('.') || c.isSpace())
+            continue;
+        bool ok = false;
+        const int value = QString(c).toInt(&ok, 16);
+        if (!ok)
+            return false;
+        if (++digits == 2)
+            // Bit 1 of the first octet: locally administered; bit 0 (group address) clear.
+            return (value & 0x3) == 0x2;
+    }
+    return false;
+}
+
+QString CClientModel::privateAddressToolTip(const QString& mac)
+{
+    return isPrivateAddress(mac) ? tr("A private (randomised) address: it belongs to no vendor.") : QString();
 }
 
 } // namespace velmora

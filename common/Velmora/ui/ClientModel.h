@@ -33,6 +33,12 @@ public:
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
 
     void setClientInfo(const std::vector<ClientInfo>& rows);
+
+    // A unicast address whose locally administered bit is set: a randomised, private address
+    // that no vendor registered (second hex digit 2, 6, A or E). Separators are skipped.
+    static bool isPrivateAddress(const QString& mac);
+    // The tooltip of the MAC and terminal type cells of a private address; empty otherwise.
+    static QString privateAddressToolTip(const QString& mac);
 };
 
 } // namespace velmora

@@ -191,6 +191,9 @@ void CDeviceStatusWidget::showUsage(const Quillon::DeviceStatus& status)
     }
 
     const bool hasPoe = !status.poeList.empty();
+    m_bReportsPoe = hasPoe;
+    if (m_pPanelStatus)
+        m_pPanelStatus->setPoePowerShown(hasPoe);
     ui.m_poeProgressBar->setVisible(hasPoe);
     ui.poeLabel->setVisible(hasPoe);
     ui.poePercentLabel->setVisible(hasPoe);
@@ -226,6 +229,7 @@ void CDeviceStatusWidget::showPortDetailInfo()
     std::vector<PortDetailInfo> rows;
     if (m_pPortDetailInfoModel)
         m_pPortDetailInfoModel->setPortDetailData(rows);
+    m_portNeighbours.clear();
 
     protocol::DeviceNode node;
     if (!senvia::CTopologyConfigComm::getOneDeviceNode(m_pDevice->getDeviceId(), node)) {
@@ -251,6 +255,11 @@ void CDeviceStatusWidget::showPortDetailInfo()
         row.strIp = farNode.ip;
         row.strAlias = farNode.name;
         rows.push_back(row);
+        CPanelStatusBase::PortNeighbour& neighbour = m_portNeighbours[static_cast<unsigned>(port.linkPort)];
+        neighbour.portName = QString::fromStdString(port.portName);
+        neighbour.name = QString::fromStdString(farNode.name);
+        neighbour.deviceClass = CPortDetailInfoModel::oppositeDeviceType(farNode.deviceCategory, farNode.deviceClassType);
+        neighbour.address = QString::fromStdString(farNode.ip);
     }
     if (m_pPortDetailInfoModel)
         m_pPortDetailInfoModel->setPortDetailData(rows);
@@ -295,6 +304,8 @@ void CDeviceStatusWidget::showPanelStatus()
         m_pPanelLayout->addWidget(m_pPanelStatus, 0, 0, 1, 1);
     }
     m_pPanelStatus->panelDevice = m_pDevice;
+    m_pPanelStatus->setPortNeighbours(m_portNeighbours);
+    m_pPanelStatus->setPoePowerShown(m_bReportsPoe);
     m_pPanelStatus->showPanelStatus();
 }
 

@@ -2,7 +2,10 @@
 // The first page of every device: usage bars, the drawn front panel with its alarm marks,
 // and what hangs on each port. The host reaches it through the dialog to push port alarms
 // and to ask for a full refresh.
+#include <map>
+
 #include "DeviceStatusOptionBase.h"
+#include "ui/DevicePanelStatus/PanelStatusBase.h"
 
 namespace Quillon {
 struct DeviceStatus;
@@ -53,6 +56,10 @@ private:
     QGridLayout* m_pPanelLayout;
     Ui_UiPanelStatusWidget* m_pUi;
     QTimer* m_pRefreshTimer;
+    // What the last load learnt for the panel's port tooltips: the far devices by port
+    // number, and whether the device reports PoE.
+    std::map<unsigned, CPanelStatusBase::PortNeighbour> m_portNeighbours;
+    bool m_bReportsPoe = false;
 
     friend struct CDeviceStatusWidgetTestAccess; // tests feed device answers the emulator never gives
 };

@@ -29,6 +29,8 @@ constexpr int kMillisecondsPerSecond = 1000;
 // card width on, and the images of frame, card, blanking plate and ports. The art generator
 // draws the images from the same row. What follows is where the ports sit on a card.
 constexpr int kManagementCardSlot = 1;
+const char kElectricalLegendImage[] = ":/Tarvex7300/Velmora/Images/FiberDevice/electrical_port.png";
+const char kOpticalLegendImage[] = ":/Tarvex7300/Velmora/Images/FiberDevice/optical_port.png";
 constexpr QPoint kElectricalPortOffset(8, 22);
 constexpr QPoint kOpticalPortOffset(9, 48);
 // The management card has a second electrical port where the other cards have the optical
@@ -91,6 +93,11 @@ void CFiberPanelStatusWidget::initControl()
                             static_cast<QWidget*>(ui->label_7), static_cast<QWidget*>(ui->label_8),
                             static_cast<QWidget*>(ui->label_9), static_cast<QWidget*>(ui->label_10)})
         legend->hide();
+    // The legend icons of the form, drawn for a dense screen when there is one.
+    if (artRatio() > 1) {
+        ui->electricalIconLabel->setPixmap(loadArt(kElectricalLegendImage));
+        ui->opticalIconLabel->setPixmap(loadArt(kOpticalLegendImage));
+    }
 }
 
 void CFiberPanelStatusWidget::initPictureInfo()
@@ -98,7 +105,7 @@ void CFiberPanelStatusWidget::initPictureInfo()
     initResources();
     const layouts::PanelLayout& crate = layouts::fiberCrateLayout();
     auto load = [this](unsigned id, const std::string& path) {
-        QPixmap* pixmap = new (std::nothrow) QPixmap(QString::fromStdString(layouts::resourcePath(path)));
+        QPixmap* pixmap = new (std::nothrow) QPixmap(loadArt(QString::fromStdString(layouts::resourcePath(path))));
         if (pixmap)
             m_pixmaps[id] = pixmap;
     };
@@ -181,7 +188,7 @@ void CFiberPanelStatusWidget::paintEvent(QPaintEvent* event)
 
     // The frame image centred at its natural size in m_pPanelPanelFrame.
     const auto frame = m_pixmaps.find(FRAME_IMAGE);
-    const QSize frameSize = frame != m_pixmaps.end() && frame->second ? frame->second->size() : QSize(0, 0);
+    const QSize frameSize = frame != m_pixmaps.end() && frame->second ? logicalSize(*frame->second) : QSize(0, 0);
     QPoint origin;
     if (ui) {
         const QPoint centred((ui->m_pPanelPanelFrame->width() - frameSize.width()) / 2,

@@ -6,6 +6,7 @@
 
 #include "Plinth/Log.h"
 #include "Plinth/StringUtil.h"
+#include "ui/DevicePanelStatus/PanelResources.h"
 
 namespace velmora {
 
@@ -50,9 +51,9 @@ CRfInfoTab::CRfInfoTab(QWidget* parent)
 {
     ui.setupUi(this);
     m_mapChannelPixmap[ChannelNormal] =
-        new (std::nothrow) QPixmap(":/Tarvex7300/Velmora/Images/APDevice/channel_status_normal.png");
+        new (std::nothrow) QPixmap(loadArt(":/Tarvex7300/Velmora/Images/APDevice/channel_status_normal.png"));
     m_mapChannelPixmap[ChannelInterference] =
-        new (std::nothrow) QPixmap(":/Tarvex7300/Velmora/Images/APDevice/channel_status_interference.png");
+        new (std::nothrow) QPixmap(loadArt(":/Tarvex7300/Velmora/Images/APDevice/channel_status_interference.png"));
     m_mapChannelPixmap[ChannelUnknown] = new (std::nothrow) QPixmap(QString());
 }
 

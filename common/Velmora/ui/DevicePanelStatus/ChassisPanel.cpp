@@ -4,6 +4,7 @@
 
 #include "Quillon/SwitchRecords.h"
 #include "logical/interface/ParamInterface.h"
+#include "ui/DevicePanelStatus/PanelResources.h"
 #include "ui/DevicePanelStatus/PixmapSizes.h"
 
 namespace velmora {
@@ -19,9 +20,9 @@ CChassisPanel::CChassisPanel(const PanelLayout& layout, QWidget* parent) : CPane
 
 void CChassisPanel::initPixmaps()
 {
-    pixmaps[0] = new QPixmap(QString::fromStdString(resourcePath(m_layout.framePath(kAnyMode))));
+    pixmaps[0] = new QPixmap(loadArt(QString::fromStdString(resourcePath(m_layout.framePath(kAnyMode)))));
     for (const Image& image : m_layout.images->images)
-        pixmaps[static_cast<unsigned>(image.id)] = new QPixmap(QString::fromStdString(resourcePath(image.path)));
+        pixmaps[static_cast<unsigned>(image.id)] = new QPixmap(loadArt(QString::fromStdString(resourcePath(image.path))));
 }
 
 void CChassisPanel::initPortPositions()
@@ -43,6 +44,7 @@ void CChassisPanel::showPanelStatus()
 
 void CChassisPanel::applySlots(const Quillon::SwitchSlotInfolList& list)
 {
+    rememberSlots(list);
     for (const Quillon::SwitchSlotInfo& slot : list.slotList) {
         PortKind kind;
         if (slot.boardType == "mainBoard")

@@ -9,6 +9,7 @@
 #include "Plinth/StringUtil.h"
 #include "Quillon/SwitchRecords.h"
 #include "logical/interface/WorkStatusInferface.h"
+#include "ui/DevicePanelStatus/PanelResources.h"
 #include "ui/DevicePanelStatus/PixmapSizes.h"
 
 namespace velmora {
@@ -48,13 +49,17 @@ void CLayoutPanel::applyLegends()
 
 void CLayoutPanel::initPixmaps()
 {
-    pixmaps[0] = new QPixmap(QString::fromStdString(resourcePath(m_layout.framePath(m_mode))));
+    pixmaps[0] = new QPixmap(loadArt(QString::fromStdString(resourcePath(m_layout.framePath(m_mode)))));
     const bool scaled = !m_layout.scaledPorts.isEmpty();
     const QSize scaledSize(m_layout.scaledPorts.width, m_layout.scaledPorts.height);
     for (const Image& image : m_layout.images->images) {
-        auto* pixmap = new QPixmap(QString::fromStdString(resourcePath(image.path)));
-        if (scaled)
-            *pixmap = pixmap->scaled(scaledSize, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+        auto* pixmap = new QPixmap(loadArt(QString::fromStdString(resourcePath(image.path))));
+        if (scaled) {
+            // The size is in device-independent pixels; a dense image keeps its density.
+            const qreal ratio = pixmap->devicePixelRatio();
+            *pixmap = pixmap->scaled(scaledSize * ratio, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+            pixmap->setDevicePixelRatio(ratio);
+        }
         pixmaps[static_cast<unsigned>(image.id)] = pixmap;
     }
     if (m_layout.logo.shown) {
@@ -118,6 +123,7 @@ void CLayoutPanel::showPanelStatus()
 
 void CLayoutPanel::applyWorkState(const Quillon::SwitchesWorkState& state)
 {
+    rememberPortStates(state);
     const bool tracksKinds = m_layout.alarmKinds.empty();
     for (const Quillon::SwitchesWorkStateItem& item : state.portList) {
         const unsigned port = static_cast<unsigned>(item.portId);

@@ -12,6 +12,7 @@
 // Most families do not derive directly: CLayoutPanel and CChassisPanel do all of this from a
 // row of the layout tables (PanelLayouts.h).
 #include <QPoint>
+#include <QString>
 #include <QWidget>
 #include <map>
 #include <memory>
@@ -21,6 +22,11 @@
 
 class QPixmap;
 class QSvgRenderer;
+
+namespace Quillon {
+struct SwitchesWorkState;
+struct SwitchSlotInfolList;
+} // namespace Quillon
 
 namespace Ui {
 class UiPanelStatusBase;
@@ -48,12 +54,38 @@ public:
     void hideOpticalLegend(bool hidden);
     void hideTitleWidget(bool hidden);
 
+    // The device at the far end of a port, as the status page's topology query saw it.
+    struct PortNeighbour {
+        QString portName;    // the port's own name on this device; empty when unknown
+        QString name;
+        QString deviceClass; // the text of the port table's device type column
+        QString address;
+    };
+    // What the page knows about the ports' neighbours, by port number; replaces the last set.
+    void setPortNeighbours(const std::map<unsigned, PortNeighbour>& neighbours);
+    // Whether the port tooltips tell the PoE output power (the device reports PoE).
+    void setPoePowerShown(bool shown);
+    // The tooltip of `port`, one fact per line, from what the panel holds now: its last
+    // state answer, its alarm mark and the page's neighbours. Empty for a port it never saw.
+    QString portToolTip(unsigned port) const;
+
     // The device shown; assigned by the page after construction and before the first
     // showPanelStatus(). The panel never sets it.
     std::shared_ptr<tarvex7300::IAbstractDevice> panelDevice;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    // Shows portToolTip() of the port under the mouse.
+    bool event(QEvent* event) override;
+    // The port drawn at `pos` (this widget's coordinates) and the area it covers there; false
+    // when there is none. The base looks through the port images where paintEvent draws them.
+    virtual bool portAt(const QPoint& pos, unsigned& port, QRect& area) const;
+
+    // Keep a state answer for the tooltips; the families call these where they apply one.
+    void rememberPortStates(const Quillon::SwitchesWorkState& state);
+    void rememberSlots(const Quillon::SwitchSlotInfolList& slotList);
+    // A port's label as the device draws it, when it has one (the logical panel's cells).
+    void rememberPortLabel(unsigned port, const QString& label);
 
     // The frame image's top-left corner in this widget: the image centred at its natural size
     // in m_pPanelPanelFrame (an image larger than the frame overflows it on both sides).
@@ -67,6 +99,21 @@ protected:
     std::set<unsigned> alarmPorts;
     int svgOffsetX = 0;                         // the logo strip's offset from the frame's corner
     int svgOffsetY = 0;
+
+    // The last reported facts of each port, for the tooltips.
+    struct PortFacts {
+        bool isSlot = false;     // a chassis slot: boardName and inserted tell its state
+        std::string linkState;
+        std::string rate;
+        std::string duplex;
+        float poePower = 0.0f;
+        bool inserted = false;
+        std::string boardName;
+        QString label;
+    };
+    std::map<unsigned, PortFacts> portFacts;
+    std::map<unsigned, PortNeighbour> portNeighbours;
+    bool poePowerShown = false;
 
     friend struct PanelTestAccess;
 };

@@ -18,7 +18,7 @@ CPartPixmap::CPartPixmap(QWidget* parent)
 void CPartPixmap::setPixmap(const QPixmap& pixmap)
 {
     m_pLabel->setPixmap(pixmap);
-    resize(pixmap.size());
+    resize(pixmap.size() / pixmap.devicePixelRatio());
 }
 
 } // namespace velmora

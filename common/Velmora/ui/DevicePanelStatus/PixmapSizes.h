@@ -17,7 +17,9 @@ public:
         const auto it = m_pixmaps.find(static_cast<unsigned>(id));
         if (id < 0 || it == m_pixmaps.end() || !it->second)
             return layouts::Size{};
-        return layouts::Size{it->second->width(), it->second->height()};
+        // In device-independent pixels, whatever density the image was drawn for.
+        const QSize size = it->second->size() / it->second->devicePixelRatio();
+        return layouts::Size{size.width(), size.height()};
     }
 
 private:

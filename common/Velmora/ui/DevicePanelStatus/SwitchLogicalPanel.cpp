@@ -12,6 +12,7 @@
 #include "logical/interface/ParamInterface.h"
 #include "logical/interface/WorkStatusInferface.h"
 #include "ui/DevicePanelStatus/PanelLayouts.h"
+#include "ui/DevicePanelStatus/PanelResources.h"
 #include "ui/DevicePanelStatus/PartPixmap.h"
 #include "ui_PanelStatusBase.h"
 
@@ -78,12 +79,13 @@ void CSwitchLogicalPanel::initPixmaps()
         for (int deviceCategory : set.categories) {
             std::map<int, QPixmap>& images = logicalPixmaps[deviceCategory];
             for (const layouts::Image& image : set.images)
-                images[image.id] = QPixmap(QString::fromStdString(layouts::resourcePath(image.path)));
+                images[image.id] = loadArt(QString::fromStdString(layouts::resourcePath(image.path)));
+            // Sizes in device-independent pixels, whatever density the images were drawn for.
             std::map<int, int>& sizes = logicalSizes[deviceCategory];
-            sizes[kPortWidth] = images[0].width();
-            sizes[kPortHeight] = images[0].height();
-            sizes[kBorderWidth] = images[kOrderRight].width();
-            sizes[kBorderHeight] = images[kOrderRight].height();
+            sizes[kPortWidth] = logicalSize(images[0]).width();
+            sizes[kPortHeight] = logicalSize(images[0]).height();
+            sizes[kBorderWidth] = logicalSize(images[kOrderRight]).width();
+            sizes[kBorderHeight] = logicalSize(images[kOrderRight]).height();
         }
     }
 }
@@ -115,6 +117,9 @@ void CSwitchLogicalPanel::setPanel(const Quillon::Panel& reported, int deviceCat
 {
     panel = reported;
     category = deviceCategory;
+    for (const Quillon::PanelCell& cell : panel.cellList)
+        if (cell.cellType == "port")
+            rememberPortLabel(static_cast<unsigned>(cell.portId), QString::fromStdString(cell.label));
     std::map<int, int>& sizes = logicalSizes[category];
     rowHeight = sizes[kPortHeight];
     borderWidth = sizes[kBorderWidth];
@@ -134,12 +139,16 @@ void CSwitchLogicalPanel::setPanel(const Quillon::Panel& reported, int deviceCat
         else if (type == "septalSpace")
             width += kSeptalWidth;
     }
-    panelPixmap = QPixmap(width + 2 * kSideMargin, kImageHeight);
+    // Drawn for the screen's density; every coordinate stays in device-independent pixels.
+    const int ratio = artRatio();
+    panelPixmap = QPixmap(QSize(width + 2 * kSideMargin, kImageHeight) * ratio);
+    panelPixmap.setDevicePixelRatio(ratio);
     panelPixmap.fill(kPlateColor);
 }
 
 void CSwitchLogicalPanel::applyWorkState(const Quillon::SwitchesWorkState& state)
 {
+    rememberPortStates(state);
     directionFromCells = state.portOrder.empty();
     if (!directionFromCells)
         oddPortsUp = state.portOrder == "portNO1";
@@ -224,6 +233,7 @@ void CSwitchLogicalPanel::renderPanelPixmap()
     };
 
     QPainter painter(&panelPixmap);
+    portCells.clear();
     int x = kSideMargin;
     for (int i = 0; i <= cells - rows; i += rows) {
         // A column is as wide as a port cell unless it holds a border or a space.
@@ -261,6 +271,7 @@ void CSwitchLogicalPanel::renderPanelPixmap()
                 painter.setPen(Qt::NoPen);
                 painter.setBrush(kCellColor);
                 painter.drawRect(QRect(x, y, cellWidth, rowHeight));
+                portCells[static_cast<unsigned>(cell.portId)] = QRect(x, y, cellWidth, rowHeight);
                 bool up;
                 if (directionFromCells)
                     up = cell.direction == "up";
@@ -314,22 +325,65 @@ bool CSwitchLogicalPanel::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
+bool CSwitchLogicalPanel::portAt(const QPoint& pos, unsigned& port, QRect& area) const
+{
+    if (panelPixmap.isNull())
+        return false;
+    // The same geometry as paintEvent: centred at full size, or shrunk to the frame's width.
+    const QSize frameSize = ui->m_pPanelPanelFrame->size();
+    const QPoint framePos = ui->m_pPanelPanelFrame->pos();
+    const QSize imageSize = panelPixmap.size() / panelPixmap.devicePixelRatio();
+    // From image to widget coordinates: a scale in each direction and an offset.
+    QPointF inImage;
+    double scaleX = 1.0;
+    double scaleY = 1.0;
+    QPointF offset;
+    if (imageSize.width() <= frameSize.width()) {
+        const QPoint origin = framePos + QPoint((frameSize.width() - imageSize.width()) >> 1,
+                                                (frameSize.height() - imageSize.height()) >> 1);
+        inImage = QPointF(pos - origin);
+        offset = QPointF(origin);
+    } else {
+        const double ratio = static_cast<double>(frameSize.width()) / imageSize.width();
+        const int scaledHeight = static_cast<int>(std::ceil(frameSize.height() * ratio));
+        if (scaledHeight <= 0 || imageSize.height() <= 0)
+            return false;
+        const int scaledY = framePos.y() + ((frameSize.height() - scaledHeight) >> 1);
+        scaleX = ratio;
+        scaleY = static_cast<double>(scaledHeight) / imageSize.height();
+        offset = QPointF(framePos.x(), scaledY);
+        inImage = QPointF((pos.x() - offset.x()) / scaleX, (pos.y() - offset.y()) / scaleY);
+    }
+    for (const auto& cell : portCells) {
+        if (QRectF(cell.second).contains(inImage)) {
+            port = cell.first;
+            const QRectF c(cell.second);
+            area = QRectF(offset + QPointF(c.x() * scaleX, c.y() * scaleY), QSizeF(c.width() * scaleX, c.height() * scaleY))
+                       .toAlignedRect();
+            return true;
+        }
+    }
+    return false;
+}
+
 void CSwitchLogicalPanel::paintEvent(QPaintEvent* event)
 {
     const QSize frameSize = ui->m_pPanelPanelFrame->size();
     const QPoint framePos = ui->m_pPanelPanelFrame->pos();
-    const int imageWidth = panelPixmap.width();
+    // Sizes in device-independent pixels; `density` is what the image was drawn for.
+    const qreal density = panelPixmap.devicePixelRatio();
+    const int imageWidth = logicalSize(panelPixmap).width();
     QPainter painter(this);
     if (imageWidth <= frameSize.width()) {
         painter.drawPixmap(framePos + QPoint((frameSize.width() - imageWidth) >> 1,
-                                             (frameSize.height() - panelPixmap.height()) >> 1),
+                                             (frameSize.height() - logicalSize(panelPixmap).height()) >> 1),
                            panelPixmap);
     } else {
         const double ratio = static_cast<double>(frameSize.width()) / imageWidth;
-        const QPixmap scaled =
-            panelPixmap.scaled(frameSize.width(), static_cast<int>(std::ceil(frameSize.height() * ratio)),
-                               Qt::IgnoreAspectRatio, Qt::FastTransformation);
-        const int scaledY = framePos.y() + ((frameSize.height() - scaled.height()) >> 1);
+        const QSize scaledSize(frameSize.width(), static_cast<int>(std::ceil(frameSize.height() * ratio)));
+        QPixmap scaled = panelPixmap.scaled(scaledSize * density, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+        scaled.setDevicePixelRatio(density);
+        const int scaledY = framePos.y() + ((frameSize.height() - scaledSize.height()) >> 1);
         painter.drawPixmap(framePos.x(), scaledY, scaled);
         if (!hovering) {
             partPixmap->hide();
@@ -338,14 +392,17 @@ void CSwitchLogicalPanel::paintEvent(QPaintEvent* event)
             const int side = frameSize.height();
             const int half = side / 2;
             int left = std::max(mouseX - half, framePos.x());
-            if (mouseX + half > framePos.x() + scaled.width())
-                left = framePos.x() - side + scaled.width();
-            painter.fillRect(QRect(left, scaledY, side, scaled.height()), kMagnifierShade);
+            if (mouseX + half > framePos.x() + scaledSize.width())
+                left = framePos.x() - side + scaledSize.width();
+            painter.fillRect(QRect(left, scaledY, side, scaledSize.height()), kMagnifierShade);
             const int sourceSide = static_cast<int>(side / ratio);
             QRect source(static_cast<int>(left / ratio), 0, sourceSide, sourceSide);
             if (source.x() + source.width() > imageWidth)
                 source.moveLeft(static_cast<int>(imageWidth - side / ratio));
-            partPixmap->setPixmap(panelPixmap.copy(source));
+            // copy() counts device pixels.
+            QPixmap part = panelPixmap.copy(QRect(source.topLeft() * density, source.size() * density));
+            part.setDevicePixelRatio(density);
+            partPixmap->setPixmap(part);
             partPixmap->move(ui->m_pPanelPanelFrame->mapToGlobal(QPoint(0, 0)) +
                              QPoint(mouseX - partPixmap->width() / 2, -partPixmap->height()));
             partPixmap->show();

@@ -44,6 +44,9 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    // The port under `pos` in the drawn (and perhaps shrunk) image: the port the magnifier
+    // shows under the mouse.
+    bool portAt(const QPoint& pos, unsigned& port, QRect& area) const override;
 
     // The layout half of showPanelStatus(): sizes, width and a blank image for `panel`.
     void setPanel(const Quillon::Panel& panel, int category);
@@ -58,6 +61,7 @@ protected:
     std::map<int, std::map<int, QPixmap>> logicalPixmaps; // category -> image id -> image
     std::map<int, std::map<int, int>> logicalSizes;       // category -> 0 w, 1 h of image 0; 2 w, 3 h of 11
     QPixmap panelPixmap;
+    std::map<unsigned, QRect> portCells; // where each port's cell lies in panelPixmap
     int mouseX = 0;
     int mouseY = 0;
     CPartPixmap* partPixmap = nullptr;

@@ -905,3 +905,33 @@ TEST_F(DeviceStatusWidgetTest, ShowStatusPublicSetsTheWorkStateDeviceThenLoads)
     EXPECT_NE(panelOf(page), nullptr);
     EXPECT_TRUE(timerOf(page)->isActive());
 }
+
+// ---------------------------------------------------------------------------------------------
+// Port tooltips of the panel
+
+TEST_F(DeviceStatusWidgetTest, PanelTooltipsTellTheNeighboursAndPowerThePageRead)
+{
+    for (const char* name : {"poe-switch", "plain-switch"}) {
+        SCOPED_TRACE(name);
+        const bool poe = std::string(name) == "poe-switch";
+        CDeviceStatusWidget page(nullptr);
+        fleet().open(page, name);
+        showStatus(page);
+        CPanelStatusBase* panel = panelOf(page);
+        ASSERT_NE(panel, nullptr);
+        std::vector<int> linkPorts;
+        const std::vector<Row> rows = expectedRows(fleet().id(name), &linkPorts);
+        ASSERT_FALSE(rows.empty());
+        ASSERT_TRUE(emulator().clearRequestLog());
+        for (size_t i = 0; i < rows.size(); ++i) {
+            const QString tip = panel->portToolTip(static_cast<unsigned>(linkPorts[i]));
+            // The port's own name and its far device, as the port table shows them.
+            EXPECT_TRUE(tip.startsWith(rows[i].name + "\n")) << tip.toStdString();
+            EXPECT_TRUE(tip.endsWith(QString("\nNeighbour: %1 (%2), %3").arg(rows[i].alias, rows[i].type, rows[i].ip)))
+                << tip.toStdString();
+            EXPECT_EQ(tip.contains("\nPoE output power: "), poe) << tip.toStdString();
+        }
+        // Reading the tooltips asks the device nothing.
+        EXPECT_TRUE(emulator().requestLog(fleet().id(name)).empty());
+    }
+}

@@ -51,3 +51,39 @@ TEST(ClientModelTest, RowsNumberedFromOneAndAnUnknownTypeAsDashes)
     ASSERT_EQ(model.rowCount(), 1);
     EXPECT_EQ(model.index(0, 0).data(), QVariant(1));
 }
+
+TEST(ClientModelTest, PrivateAddressKeepsItsVendorTextAndSaysWhyInItsTooltip)
+{
+    const QString tip = "A private (randomised) address: it belongs to no vendor.";
+    // The locally administered bit set, group bit clear: second hex digit 2, 6, A or E,
+    // upper or lower case, with dashes or colons.
+    const QStringList privateMacs = {"02-11-22-33-44-55", "16:11:22:33:44:55", "DA-11-22-33-44-55",
+                                     "fe:11:22:33:44:55", "aA-BB-CC-00-00-01"};
+    std::vector<ClientInfo> rows;
+    for (const QString& mac : privateMacs)
+        rows.push_back({mac, "192.168.1.20", "", "-50dBm", "1.000Mbps", "1.000Mbps", "00:01:00"});
+    // A universal address, and one whose only the group bit is set, have no such tooltip.
+    rows.push_back({"00-1B-63-00-00-01", "192.168.1.21", "Apple, Inc.", "", "", "", ""});
+    rows.push_back({"01-00-5E-00-00-01", "192.168.1.22", "", "", "", "", ""});
+    CClientModel model(nullptr);
+    model.setClientInfo(rows);
+    ASSERT_EQ(model.rowCount(), 7);
+    for (int row = 0; row < 5; ++row) {
+        EXPECT_EQ(model.index(row, CClientModel::MAC).data(Qt::ToolTipRole).toString(), tip) << row;
+        EXPECT_EQ(model.index(row, CClientModel::TERMINAL_TYPE).data(Qt::ToolTipRole).toString(), tip) << row;
+        // The vendor column says what it said before.
+        EXPECT_EQ(model.index(row, CClientModel::TERMINAL_TYPE).data().toString(), "--") << row;
+    }
+    for (int row = 5; row < 7; ++row) {
+        EXPECT_FALSE(model.index(row, CClientModel::MAC).data(Qt::ToolTipRole).isValid()) << row;
+        EXPECT_FALSE(model.index(row, CClientModel::TERMINAL_TYPE).data(Qt::ToolTipRole).isValid()) << row;
+    }
+    EXPECT_EQ(model.index(5, CClientModel::TERMINAL_TYPE).data().toString(), "Apple, Inc.");
+
+    for (QChar digit : QString("26AEae"))
+        EXPECT_TRUE(CClientModel::isPrivateAddress(QString("0%1:00:00:00:00:01").arg(digit))) << digit.toLatin1();
+    for (QChar digit : QString("013457899BCDFbf"))
+        EXPECT_FALSE(CClientModel::isPrivateAddress(QString("0%1:00:00:00:00:01").arg(digit))) << digit.toLatin1();
+    EXPECT_FALSE(CClientModel::isPrivateAddress(""));
+    EXPECT_FALSE(CClientModel::isPrivateAddress("zz:00:00:00:00:00"));
+}
