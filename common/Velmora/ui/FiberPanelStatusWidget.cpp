@@ -122,6 +122,8 @@ void CFiberPanelStatusWidget::showStatusPublic()
 
 void CFiberPanelStatusWidget::showStatus()
 {
+    if (!hasDevice(m_pTimer))
+        return;
     if (m_pTimer && !m_pTimer->isActive())
         m_pTimer->start(kRefreshSeconds * kMillisecondsPerSecond);
     showPanelInfoPrivate();
@@ -136,6 +138,8 @@ void CFiberPanelStatusWidget::hideEvent(QHideEvent* event)
 
 void CFiberPanelStatusWidget::onRefreshSlotInformation()
 {
+    if (!hasDevice(m_pTimer))
+        return;
     showPanelInfoPrivate();
 }
 
