@@ -40,12 +40,20 @@ void readRequest(const cJSON* json)
 // The three envelopes over `text`, then what they read written out again.
 void parseWithEachEnvelope(const std::string& text)
 {
-    parseWithEachEnvelope(text);
-    // Deeply nested text around the input, and around its tail that is left after the bytes
-    // that chose the nesting.
-    parseWithEachEnvelope(nestedAround(data, size, text));
-    if (size > 3)
-        parseWithEachEnvelope(nestedAround(data, size, text.substr(3)));
+    auto node = std::make_shared<protocol::DeviceNode>();
+    protocol::ReturnData envelope(node);
+    if (envelope.Parse(text))
+        envelope.Serialize();
+
+    auto alarms = std::make_shared<protocol::SwitchAlarmListData>();
+    protocol::ReturnDataForVideoWall wall(alarms);
+    if (wall.Parse(text))
+        wall.Serialize();
+
+    auto nodes = std::make_shared<protocol::DeviceNodeListData>();
+    protocol::RJReturnData rapid(std::make_shared<protocol::RJRecordAdapter>(nodes));
+    if (rapid.parse(text))
+        rapid.Serialize();
 }
 
 // The input put inside a nesting of arrays, objects or answers as deep as its first three
