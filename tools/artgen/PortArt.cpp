@@ -288,10 +288,13 @@ QByteArray drawSvg(Shape shape, PortState state, bool bridgeLook)
     const QString color = QColor(QRgb(stateColor(state))).name();
     const QString rim = QColor(QRgb(stateColor(state))).darker(190).name();
     const QString radius = bridgeLook ? QStringLiteral("3") : QStringLiteral("0");
+    // The port cells are drawn on a 24-unit grid and scaled to their size by the view box.
+    Size view = s;
     switch (shape) {
     case Shape::LogicalElectricalUp:
     case Shape::LogicalElectricalDown: {
         const bool up = shape == Shape::LogicalElectricalUp;
+        view = Size{24, 24};
         body += QStringLiteral("<rect x=\"0\" y=\"0\" width=\"24\" height=\"24\" rx=\"%1\" fill=\"%2\"/>")
                     .arg(radius, color);
         body += QStringLiteral("<rect x=\"0.5\" y=\"0.5\" width=\"23\" height=\"23\" rx=\"%1\" fill=\"none\" "
@@ -310,6 +313,7 @@ QByteArray drawSvg(Shape shape, PortState state, bool bridgeLook)
         break;
     }
     case Shape::LogicalOptical:
+        view = Size{24, 24};
         body += QStringLiteral("<rect x=\"0\" y=\"0\" width=\"24\" height=\"24\" rx=\"%1\" fill=\"%2\"/>")
                     .arg(radius, color);
         body += QStringLiteral("<rect x=\"0.5\" y=\"0.5\" width=\"23\" height=\"23\" rx=\"%1\" fill=\"none\" "
@@ -323,11 +327,12 @@ QByteArray drawSvg(Shape shape, PortState state, bool bridgeLook)
     case Shape::LogicalOrderRight:
     case Shape::LogicalOrderLeft: {
         const QString fill = bridgeLook ? QStringLiteral("#b9c3cc") : QStringLiteral("#d0d3d6");
+        // A chevron in the middle of a column as wide as a port cell, one row high.
         body += shape == Shape::LogicalOrderRight
-                    ? QStringLiteral("<path d=\"M3 6 L9 12 L3 18\" fill=\"none\" stroke=\"%1\" stroke-width=\"2\" "
+                    ? QStringLiteral("<path d=\"M6 2 L10 6 L6 10\" fill=\"none\" stroke=\"%1\" stroke-width=\"1.6\" "
                                      "stroke-linecap=\"round\" stroke-linejoin=\"round\"/>")
                           .arg(fill)
-                    : QStringLiteral("<path d=\"M9 6 L3 12 L9 18\" fill=\"none\" stroke=\"%1\" stroke-width=\"2\" "
+                    : QStringLiteral("<path d=\"M10 2 L6 6 L10 10\" fill=\"none\" stroke=\"%1\" stroke-width=\"1.6\" "
                                      "stroke-linecap=\"round\" stroke-linejoin=\"round\"/>")
                           .arg(fill);
         break;
@@ -347,9 +352,11 @@ QByteArray drawSvg(Shape shape, PortState state, bool bridgeLook)
     }
     const QString svg = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                                        "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%1\" height=\"%2\" "
-                                       "viewBox=\"0 0 %1 %2\">%3</svg>\n")
+                                       "viewBox=\"0 0 %3 %4\">%5</svg>\n")
                             .arg(s.width)
                             .arg(s.height)
+                            .arg(view.width)
+                            .arg(view.height)
                             .arg(body);
     return svg.toUtf8();
 }

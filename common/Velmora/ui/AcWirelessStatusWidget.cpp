@@ -63,6 +63,8 @@ CAcWirelessStatusWidget::CAcWirelessStatusWidget(QWidget* parent)
 
 void CAcWirelessStatusWidget::showStatus()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     if (m_pRefreshTimer && !m_pRefreshTimer->isActive()) {
         m_pRefreshTimer->stop();
         m_pRefreshTimer->start(kRefreshSeconds * 1000);
@@ -80,6 +82,8 @@ void CAcWirelessStatusWidget::hideEvent(QHideEvent*)
 
 void CAcWirelessStatusWidget::onRefreshWirelessPortInfo()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     getApGroupList();
     updateGroupComBox();
     showGroupSSID(ui.m_pGroupComBox->currentText().toStdString());

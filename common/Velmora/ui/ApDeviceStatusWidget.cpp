@@ -81,12 +81,16 @@ void CApDeviceStatusWidget::initControl()
 
 void CApDeviceStatusWidget::showStatusPublic()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     initWorkStatusMode();
     showStatus();
 }
 
 void CApDeviceStatusWidget::showStatus()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     if (m_pRefreshTimer && !m_pRefreshTimer->isActive())
         m_pRefreshTimer->start(kRefreshSeconds * 1000);
     getApInfo();
@@ -102,6 +106,8 @@ void CApDeviceStatusWidget::hideEvent(QHideEvent*)
 
 void CApDeviceStatusWidget::onRefreshUtilization()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     QWidget* current = m_pRfTabWidget ? m_pRfTabWidget->currentWidget() : nullptr;
     getApInfo();
     showProgressBarWidget();

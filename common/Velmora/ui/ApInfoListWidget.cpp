@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QtConcurrent/QtConcurrentRun>
 #include <algorithm>
+#include <condition_variable>
+#include <mutex>
 #include <new>
 #include <string>
 
@@ -24,13 +26,40 @@ const char kOnline[] = "online";
 
 } // namespace
 
+// Threads: the GUI thread (the page) and at most one task on the global pool (the read).
+// Every field here is read and written only under `mutex`, and m_apInfoList only on the GUI
+// thread, so the two never touch the same memory unguarded. The read talks to the controller
+// without the lock and takes it only to hand the list over, so the GUI thread never waits for
+// the device while the page lives.
+//
+// - One read at a time: a request while a read runs sets `again`, and the running task reads
+//   once more when it ends. Requests are never dropped, and a controller slower than the timer
+//   leaves no backlog of reads behind it.
+// - The hand-over (`latest`, then the signal) happens under the lock, and the destructor clears
+//   `page` under the same lock, so a read never signals a page that is going; the queued
+//   signal of an earlier hand-over dies with the page's posted events.
+// - The destructor waits only while `reading`: for the one read in flight. A task still waiting
+//   in the pool is never run on the GUI thread; when it starts it finds `page` null and ends.
+struct CApInfoListWidget::FetchState {
+    std::mutex mutex;
+    std::condition_variable readEnded;
+    CApInfoListWidget* page = nullptr;                    // null once the page is going
+    std::shared_ptr<tarvex7300::IAbstractDevice> device; // of the latest request
+    bool queued = false;  // a task is in the pool, started or not
+    bool reading = false; // the task is asking the controller
+    bool again = false;   // a request came while a read ran
+    Quillon::ApInfoList latest{std::string()};
+};
+
 CApInfoListWidget::CApInfoListWidget(QWidget* parent)
     : CDeviceStatusOptionBase(parent)
     , m_pApInfoListModel(new (std::nothrow) CApInfoListModel(this))
     , m_pProxyModel(nullptr)
     , m_pRefreshTimer(new (std::nothrow) QTimer(this))
+    , m_pFetch(std::make_shared<FetchState>())
     , m_apInfoList(std::string())
 {
+    m_pFetch->page = this;
     ui.setupUi(this);
     m_pProxyModel = new (std::nothrow) TarvexGUIToolkit::CMutilColumnFilterProxyModel(this);
     if (m_pProxyModel) {
@@ -54,12 +83,15 @@ CApInfoListWidget::CApInfoListWidget(QWidget* parent)
 
 CApInfoListWidget::~CApInfoListWidget()
 {
-    for (QFuture<void>& fetch : m_fetches)
-        fetch.waitForFinished();
+    std::unique_lock<std::mutex> lock(m_pFetch->mutex);
+    m_pFetch->page = nullptr;
+    m_pFetch->readEnded.wait(lock, [this] { return !m_pFetch->reading; });
 }
 
 void CApInfoListWidget::showStatus()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     if (m_pRefreshTimer && !m_pRefreshTimer->isActive())
         m_pRefreshTimer->start();
     startFetch();
@@ -79,34 +111,56 @@ void CApInfoListWidget::onRefreshPortStatisticData()
 
 void CApInfoListWidget::startFetch()
 {
-    m_fetches.erase(std::remove_if(m_fetches.begin(), m_fetches.end(),
-                                   [](const QFuture<void>& fetch) { return fetch.isFinished(); }),
-                    m_fetches.end());
-    // The device is taken here, on the GUI thread, where the dialog may replace it.
-    const std::shared_ptr<tarvex7300::IAbstractDevice> device = m_pDevice;
-    m_fetches.append(QtConcurrent::run([this, device] { fetchApInfoList(device); }));
+    if (!hasDevice(m_pRefreshTimer))
+        return;
+    {
+        std::lock_guard<std::mutex> lock(m_pFetch->mutex);
+        // The device is taken here, on the GUI thread, where the dialog may replace it.
+        m_pFetch->device = m_pDevice;
+        if (m_pFetch->queued) {
+            m_pFetch->again = true;
+            return;
+        }
+        m_pFetch->queued = true;
+    }
+    const std::shared_ptr<FetchState> state = m_pFetch;
+    QtConcurrent::run([state] { fetchApInfoLists(state); });
 }
 
-void CApInfoListWidget::fetchApInfoList(const std::shared_ptr<tarvex7300::IAbstractDevice>& device)
+void CApInfoListWidget::fetchApInfoLists(const std::shared_ptr<FetchState>& state)
 {
-    {
-        // Reads queue here when the timer fires during a long one.
-        std::lock_guard<std::mutex> lock(m_mutex);
-        m_apInfoList.apList.clear();
+    std::unique_lock<std::mutex> lock(state->mutex);
+    while (state->page) {
+        state->again = false;
+        state->reading = true;
+        const std::shared_ptr<tarvex7300::IAbstractDevice> device = state->device;
+        lock.unlock();
+
+        Quillon::ApInfoList list{std::string()};
         // The answer is not looked at: after a failure the list is simply empty.
         if (device)
-            ParamInterface::getApInfoList(m_apInfoList, device->getDeviceId());
+            ParamInterface::getApInfoList(list, device->getDeviceId());
+
+        lock.lock();
+        state->reading = false;
+        state->readEnded.notify_all();
+        if (!state->page)
+            break;
+        state->latest = std::move(list);
+        emit state->page->signalUpdateData();
+        if (!state->again)
+            break;
     }
-    emit signalUpdateData();
+    state->queued = false;
 }
 
 void CApInfoListWidget::onUpdateData()
 {
-    // A read that runs now rewrites the list and hands over again when it ends; the GUI
-    // thread never waits for the device.
-    std::unique_lock<std::mutex> lock(m_mutex, std::try_to_lock);
-    if (!lock.owns_lock())
-        return;
+    {
+        // Held only for the copy: a read holds this lock just to hand over.
+        std::lock_guard<std::mutex> lock(m_pFetch->mutex);
+        m_apInfoList = m_pFetch->latest;
+    }
     if (m_pApInfoListModel) {
         m_pApInfoListModel->setApInfoList(m_apInfoList);
         if (m_capability.isSupportAPGroup)
@@ -118,7 +172,6 @@ void CApInfoListWidget::onUpdateData()
     const long online = std::count_if(m_apInfoList.apList.begin(), m_apInfoList.apList.end(),
                                       [](const Quillon::ApInfo& apInfo) { return apInfo.state == kOnline; });
     const size_t total = m_apInfoList.apList.size();
-    lock.unlock();
 
     ui.m_ApCountLabel->setText(tr("NumberOfOnlineAPycQFRVlW") + "/" + tr("TotalDeviceNum") + ":");
     ui.label->setText(QString("%1/%2").arg(online).arg(total));

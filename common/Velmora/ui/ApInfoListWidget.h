@@ -2,11 +2,8 @@
 // The APs that a controller manages, with the number online. The list is read on Qt's
 // global thread pool, so that a controller with many APs never blocks the window; a click
 // on an AP's name asks the dialog for the view of that AP.
-#include <QFuture>
-#include <QList>
 #include <QString>
 #include <memory>
-#include <mutex>
 
 #include "DeviceStatusOptionBase.h"
 #include "Quillon/WirelessRecords.h"
@@ -28,7 +25,8 @@ class CApInfoListWidget : public CDeviceStatusOptionBase {
     Q_OBJECT
 public:
     explicit CApInfoListWidget(QWidget* parent);
-    // Waits for reads still running on the pool: they write into this page.
+    // Waits for the one read that may be talking to the controller, never for a read that
+    // has not started: that one finds the page gone and does nothing.
     ~CApInfoListWidget() override;
 
 signals:
@@ -47,17 +45,19 @@ protected slots:
     void OnTableViewItemClicked(const QModelIndex& Index);
 
 private:
+    struct FetchState;
     void startFetch();
-    void fetchApInfoList(const std::shared_ptr<tarvex7300::IAbstractDevice>& device);
+    static void fetchApInfoLists(const std::shared_ptr<FetchState>& state);
     void setLinkColor(CApInfoListModel* model, const Quillon::ApInfoList& list);
 
     Ui::CApInfoListWidget ui;
     CApInfoListModel* m_pApInfoListModel;
     TarvexGUIToolkit::CMutilColumnFilterProxyModel* m_pProxyModel;
     QTimer* m_pRefreshTimer;
-    std::mutex m_mutex;             // held while a read rewrites m_apInfoList, and while it is shown
-    Quillon::ApInfoList m_apInfoList; // the list of the last read
-    QList<QFuture<void>> m_fetches;   // reads started and maybe not ended
+    // What the page and its read on the pool share, with the lock that guards it; the read
+    // holds it too, so it outlives the page.
+    std::shared_ptr<FetchState> m_pFetch;
+    Quillon::ApInfoList m_apInfoList; // the list shown, of the last read; GUI thread only
 };
 
 } // namespace velmora

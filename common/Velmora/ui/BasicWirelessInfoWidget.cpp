@@ -93,6 +93,8 @@ CBasicWirelessInfoWidget::~CBasicWirelessInfoWidget()
 
 void CBasicWirelessInfoWidget::showStatus()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     if (m_pRefreshTimer && !m_pRefreshTimer->isActive()) {
         m_pRefreshTimer->stop();
         m_pRefreshTimer->start(kRefreshSeconds * kMillisecondsPerSecond);
@@ -109,6 +111,8 @@ void CBasicWirelessInfoWidget::hideEvent(QHideEvent* /*event*/)
 
 void CBasicWirelessInfoWidget::onRefreshWirelessPortInfo()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     showBasicInfo();
     // Without a card there is nobody to ask for peers; the table keeps what it has.
     if (!m_capability.wirelessCardID.empty())

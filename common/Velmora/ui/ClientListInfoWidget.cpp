@@ -272,6 +272,8 @@ void CClientListInfoWidget::getApTerminalInfoFromAp(bool& has24G, bool& has5G, C
 
 void CClientListInfoWidget::showStatus()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     if (m_pRefreshTimer && !m_pRefreshTimer->isActive())
         m_pRefreshTimer->start();
 

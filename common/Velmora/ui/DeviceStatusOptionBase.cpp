@@ -1,5 +1,11 @@
 #include "DeviceStatusOptionBase.h"
 
+#include <QTimer>
+
+#include "Plinth/Log.h"
+#include "Plinth/Singleton.h"
+#include "Plinth/StringUtil.h"
+
 namespace velmora {
 
 CDeviceStatusOptionBase::CDeviceStatusOptionBase(QWidget* parent)
@@ -17,6 +23,21 @@ void CDeviceStatusOptionBase::setDeviceBasicInfo(std::shared_ptr<tarvex7300::IAb
 void CDeviceStatusOptionBase::setDeviceCapbility(protocol::SwitchCapabilities capability)
 {
     m_capability = std::move(capability);
+}
+
+bool CDeviceStatusOptionBase::hasDevice(QTimer* timer)
+{
+    if (m_pDevice)
+        return true;
+    if (timer && timer->isActive())
+        timer->stop();
+    if (!m_bNoDeviceLogged) {
+        m_bNoDeviceLogged = true;
+        Plinth::CSingleton<Plinth::details::CLog>::Instance().Error(
+            "", Plinth::StringUtil::FormatString("%s has no device; nothing is loaded.", metaObject()->className()),
+            PLINTH_LOCATION);
+    }
+    return false;
 }
 
 void CDeviceStatusOptionBase::showStatusPublic()

@@ -5,6 +5,8 @@
 #include <QWidget>
 #include <memory>
 
+class QTimer;
+
 #include "JSONStruct/Switch/SwitchJSONStruct.h"
 #include "ostrand/IAbstractDevice.h"
 
@@ -27,11 +29,19 @@ protected:
     // page's row, also when the page is already in front.
     virtual void showStatus() = 0;
 
+    // True when the page has a device to ask. Without one the page loads nothing: `timer`
+    // (when given) is stopped, so that a page without a device never polls, and the first
+    // such call of the page logs it. Call it first in showStatus() and in each timer slot.
+    bool hasDevice(QTimer* timer);
+
     friend class CSwitchDeviceStatusWidget;
     friend struct CDeviceStatusOptionBaseTestAccess; // tests drive pages as the dialog does
 
     protocol::SwitchCapabilities m_capability;
     std::shared_ptr<tarvex7300::IAbstractDevice> m_pDevice;
+
+private:
+    bool m_bNoDeviceLogged = false;
 };
 
 } // namespace velmora

@@ -98,6 +98,8 @@ void CDeviceStatusWidget::initControl()
 
 void CDeviceStatusWidget::showStatusPublic()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     initWorkStatusMode();
     showStatus();
 }
@@ -110,6 +112,8 @@ void CDeviceStatusWidget::setPortAlarmState(int port, bool alarm)
 
 void CDeviceStatusWidget::showStatus()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     if (m_pRefreshTimer && !m_pRefreshTimer->isActive())
         m_pRefreshTimer->start(kRefreshSeconds * 1000);
     showProgressBarWidget();
@@ -126,6 +130,8 @@ void CDeviceStatusWidget::hideEvent(QHideEvent*)
 
 void CDeviceStatusWidget::onRefreshUtilization()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     showProgressBarWidget();
 }
 

@@ -129,6 +129,8 @@ void CFiberPanelStatusWidget::showStatusPublic()
 
 void CFiberPanelStatusWidget::showStatus()
 {
+    if (!hasDevice(m_pTimer))
+        return;
     if (m_pTimer && !m_pTimer->isActive())
         m_pTimer->start(kRefreshSeconds * kMillisecondsPerSecond);
     showPanelInfoPrivate();
@@ -143,6 +145,8 @@ void CFiberPanelStatusWidget::hideEvent(QHideEvent* event)
 
 void CFiberPanelStatusWidget::onRefreshSlotInformation()
 {
+    if (!hasDevice(m_pTimer))
+        return;
     showPanelInfoPrivate();
 }
 

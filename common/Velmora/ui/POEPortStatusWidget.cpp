@@ -62,6 +62,8 @@ std::vector<PoePortStatusData> CPOEPortStatusWidget::makePoePortStatusData(const
 
 void CPOEPortStatusWidget::showStatus()
 {
+    if (!hasDevice(nullptr))
+        return;
     Quillon::PortPoeInfoList cfgList(std::string{});
     if (!ParamInterface::getPortPoeInfoCfgList(cfgList, m_pDevice->getDeviceId()))
         return;

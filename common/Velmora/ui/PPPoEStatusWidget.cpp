@@ -76,6 +76,8 @@ void CPPPoEStatusWidget::hideEvent(QHideEvent* event)
 
 void CPPPoEStatusWidget::showStatus()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     if (m_pRefreshTimer && !m_pRefreshTimer->isActive())
         m_pRefreshTimer->start();
 

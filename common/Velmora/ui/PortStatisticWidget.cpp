@@ -4,6 +4,9 @@
 #include <QTimer>
 #include <new>
 
+#include "Plinth/Log.h"
+#include "Plinth/Singleton.h"
+#include "Plinth/StringUtil.h"
 #include "SpeedDataUintconvert.h"
 #include "SwitchPorts.h"
 #include "logical/interface/ParamInterface.h"
@@ -15,6 +18,7 @@ namespace {
 const char kNoValue[] = "--";
 const char kCleared[] = "0";
 constexpr int kAfterClearMs = 2000; // the device's own values are read again this soon after a clear
+constexpr int kDefaultRefreshSeconds = 10;
 
 std::string formatRate(uint32_t bitsPerSecond)
 {
@@ -36,7 +40,7 @@ const std::map<QString, int> CPortStatisticWidget::mapRefreshRate = {
     {QStringLiteral("30s"), 30},
 };
 
-int CPortStatisticWidget::nRefreshRate = 10;
+int CPortStatisticWidget::nRefreshRate = kDefaultRefreshSeconds;
 
 CPortStatisticWidget::CPortStatisticWidget(QWidget* parent)
     : CDeviceStatusOptionBase(parent)
@@ -57,8 +61,22 @@ CPortStatisticWidget::CPortStatisticWidget(QWidget* parent)
     connect(ui.m_pRefreshRatecomboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &CPortStatisticWidget::onRefreshRateChanged);
     connect(ui.m_pClearButton, &QPushButton::clicked, this, &CPortStatisticWidget::onClearPortStatisticData);
-    ui.m_pRefreshRatecomboBox->setCurrentIndex(ui.m_pRefreshRatecomboBox->findData(
-        nRefreshRate, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    const auto findRate = [this](int seconds) {
+        return ui.m_pRefreshRatecomboBox->findData(seconds, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    };
+    int rateIndex = findRate(nRefreshRate);
+    if (rateIndex < 0) {
+        // The shared rate is one the combo doesn't offer. Without an entry the interval would
+        // be 0 and the page would poll the device without pause, so the default is taken.
+        Plinth::CSingleton<Plinth::details::CLog>::Instance().Warn(
+            "",
+            Plinth::StringUtil::FormatString("Refresh rate %d s is not offered; %d s is used.", nRefreshRate,
+                                             kDefaultRefreshSeconds),
+            PLINTH_LOCATION);
+        nRefreshRate = kDefaultRefreshSeconds;
+        rateIndex = findRate(nRefreshRate);
+    }
+    ui.m_pRefreshRatecomboBox->setCurrentIndex(rateIndex);
     if (m_pRefreshTimer) {
         m_pRefreshTimer->start(ui.m_pRefreshRatecomboBox->currentData(Qt::UserRole).toInt() * 1000);
         connect(m_pRefreshTimer, &QTimer::timeout, this, &CPortStatisticWidget::onRefreshPortStatisticData);
@@ -90,6 +108,8 @@ PortStatisticData CPortStatisticWidget::makePortStatisticData(const Quillon::Swi
 
 void CPortStatisticWidget::showStatus()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     if (m_pRefreshTimer && !m_pRefreshTimer->isActive())
         m_pRefreshTimer->start();
 
@@ -137,6 +157,8 @@ void CPortStatisticWidget::onRefreshRateChanged(int index)
 
 void CPortStatisticWidget::onClearPortStatisticData()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     m_bCleared = true;
     if (m_pRefreshTimer)
         m_pRefreshTimer->stop();

@@ -49,6 +49,8 @@ PortStatusData CPortStatusWidget::makePortStatusData(const Quillon::SwitchesWork
 
 void CPortStatusWidget::showStatus()
 {
+    if (!hasDevice(nullptr))
+        return;
     Quillon::CSwitchBaseInfo baseInfo(std::string{});
     Quillon::SwitchesWorkState workState(std::string{});
     if (!readSwitchPorts(m_pDevice->getDeviceId(), baseInfo, workState))

@@ -2,6 +2,11 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <cmath>
+
+#include "Plinth/Log.h"
+#include "Plinth/Singleton.h"
+#include "Plinth/StringUtil.h"
 
 namespace velmora {
 
@@ -27,6 +32,16 @@ CUsageRateChart::CUsageRateChart(QWidget* parent)
 
 void CUsageRateChart::setUsageRate(double rate)
 {
+    // Not a number: nothing to show, and no angle can be made of it. The chart keeps its value.
+    if (std::isnan(rate)) {
+        if (!m_bNanLogged) {
+            m_bNanLogged = true;
+            Plinth::CSingleton<Plinth::details::CLog>::Instance().Warn(
+                "", Plinth::StringUtil::FormatString("Usage rate is not a number; the chart keeps %f.", m_dUsageRate),
+                PLINTH_LOCATION);
+        }
+        return;
+    }
     if (rate < 0.0)
         rate = 0.0;
     if (rate > 100.0)

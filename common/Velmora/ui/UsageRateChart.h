@@ -11,7 +11,7 @@ class CUsageRateChart : public QLabel {
 public:
     explicit CUsageRateChart(QWidget* parent);
 
-    // Clamps `rate` to 0..100, keeps it and repaints.
+    // Clamps `rate` to 0..100, keeps it and repaints. Not a number changes nothing.
     void setUsageRate(double rate);
     double usageRate() const { return m_dUsageRate; }
 
@@ -23,6 +23,7 @@ private:
     static void drawRing(QPainter& painter, int radius, int start, int span, int thickness, QRgb colour);
 
     double m_dUsageRate = 0.0;
+    bool m_bNanLogged = false;
 };
 
 } // namespace velmora

@@ -29,6 +29,8 @@ CWirelessStatusWidget::CWirelessStatusWidget(QWidget* parent)
 
 void CWirelessStatusWidget::showStatus()
 {
+    if (!hasDevice(m_pRefreshTimer))
+        return;
     if (m_pRefreshTimer && !m_pRefreshTimer->isActive())
         m_pRefreshTimer->start();
 

@@ -37,19 +37,9 @@ void readRequest(const cJSON* json)
     cJSON_Delete(record.toJSON());
 }
 
-} // namespace
-
-extern "C" int LLVMFuzzerInitialize(int*, char***)
+// The three envelopes over `text`, then what they read written out again.
+void parseWithEachEnvelope(const std::string& text)
 {
-    // Failed parses log the whole text; the fuzzer needs none of it on its terminal.
-    Plinth::CSingleton<Plinth::details::CLog>::Instance().logger()->removeAllAppenders();
-    return 0;
-}
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
-{
-    const std::string text(reinterpret_cast<const char*>(data), size);
-
     auto node = std::make_shared<protocol::DeviceNode>();
     protocol::ReturnData envelope(node);
     if (envelope.Parse(text))
@@ -64,6 +54,49 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     protocol::RJReturnData rapid(std::make_shared<protocol::RJRecordAdapter>(nodes));
     if (rapid.parse(text))
         rapid.Serialize();
+}
+
+// The input put inside a nesting of arrays, objects or answers as deep as its first three
+// bytes say (up to about 130,000 levels, far beyond what any envelope reads), closed or not.
+std::string nestedAround(const uint8_t* data, size_t size, const std::string& inner)
+{
+    if (size < 3)
+        return std::string();
+    const size_t depth = (static_cast<size_t>(data[0]) << 9 | static_cast<size_t>(data[1]) << 1) + (data[2] & 1);
+    static const char* const opens[] = {"[", "{\"a\":", "{\"code\":\"0-0\",\"data\":", "[0,"};
+    static const char* const closes[] = {"]", "}", "}", "]"};
+    const size_t shape = (data[2] >> 1) % 4;
+    const bool closed = (data[2] & 0x80) == 0;
+    std::string text;
+    const std::string open = opens[shape];
+    text.reserve(depth * (open.size() + 1) + inner.size());
+    for (size_t i = 0; i < depth; ++i)
+        text += open;
+    text += inner.empty() ? std::string("{}") : inner;
+    if (closed)
+        text.append(depth, closes[shape][0]);
+    return text;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int*, char***)
+{
+    // Failed parses log the whole text; the fuzzer needs none of it on its terminal.
+    Plinth::CSingleton<Plinth::details::CLog>::Instance().logger()->removeAllAppenders();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    const std::string text(reinterpret_cast<const char*>(data), size);
+
+    parseWithEachEnvelope(text);
+    // Deeply nested text around the input, and around its tail that is left after the bytes
+    // that chose the nesting.
+    parseWithEachEnvelope(nestedAround(data, size, text));
+    if (size > 3)
+        parseWithEachEnvelope(nestedAround(data, size, text.substr(3)));
 
     protocol::Str2ErrorCode(text);
 

@@ -5,6 +5,9 @@
 #include <utility>
 #include <vector>
 
+#include <rapidjson/encodedstream.h>
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
@@ -77,6 +80,52 @@ void addData(cJSON* object, const std::shared_ptr<IReturnData>& data)
     if (item != nullptr && !cJSON_AddItemToObject(object, "data", item))
         cJSON_Delete(item);
 }
+
+// The deepest nesting of arrays and objects an answer may have. cJSON refuses anything
+// deeper while parsing; the RapidJSON envelope refuses at the same depth, so that the three
+// envelopes agree, and so that nothing that later walks a document recursively (a writer,
+// the record adapter) can run out of stack, also on a pool thread with a small stack.
+constexpr unsigned kMaxNesting = CJSON_NESTING_LIMIT;
+
+// Passes the reader's events on to a document and stops the parse at a nesting deeper than
+// kMaxNesting. With the iterative reader nothing here recurses, however deep the text.
+class NestingLimitedHandler {
+public:
+    using Ch = rapidjson::Document::Ch;
+    explicit NestingLimitedHandler(rapidjson::Document& document) : m_document(document) {}
+
+    bool Null() { return m_document.Null(); }
+    bool Bool(bool b) { return m_document.Bool(b); }
+    bool Int(int i) { return m_document.Int(i); }
+    bool Uint(unsigned u) { return m_document.Uint(u); }
+    bool Int64(int64_t i) { return m_document.Int64(i); }
+    bool Uint64(uint64_t u) { return m_document.Uint64(u); }
+    bool Double(double d) { return m_document.Double(d); }
+    bool RawNumber(const Ch* text, rapidjson::SizeType length, bool copy)
+    {
+        return m_document.RawNumber(text, length, copy);
+    }
+    bool String(const Ch* text, rapidjson::SizeType length, bool copy) { return m_document.String(text, length, copy); }
+    bool Key(const Ch* text, rapidjson::SizeType length, bool copy) { return m_document.Key(text, length, copy); }
+    bool StartObject() { return enter() && m_document.StartObject(); }
+    bool EndObject(rapidjson::SizeType members)
+    {
+        --m_depth;
+        return m_document.EndObject(members);
+    }
+    bool StartArray() { return enter() && m_document.StartArray(); }
+    bool EndArray(rapidjson::SizeType elements)
+    {
+        --m_depth;
+        return m_document.EndArray(elements);
+    }
+
+private:
+    bool enter() { return ++m_depth <= kMaxNesting; }
+
+    rapidjson::Document& m_document;
+    unsigned m_depth = 0;
+};
 
 std::string rapidString(const rapidjson::Value& object, const char* key, bool& present)
 {
@@ -195,8 +244,15 @@ void RJRecordAdapter::fromJSON(const rapidjson::Value& json)
     rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
     json.Accept(writer);
     cJSON* tree = cJSON_Parse(buffer.GetString());
-    if (tree == nullptr)
+    if (tree == nullptr) {
+        // A value of a parsed envelope is never nested too deeply for cJSON; one built by hand
+        // may be.
+        const char* where = cJSON_GetErrorPtr();
+        logError(Plinth::StringUtil::FormatString("Failed to cJSON_Parse( [%s] ). Error info: [%s].",
+                                                  buffer.GetString(), where != nullptr ? where : ""),
+                 PLINTH_LOCATION);
         return;
+    }
     record->fromJSON(tree);
     cJSON_Delete(tree);
 }
@@ -231,12 +287,21 @@ bool RJReturnData::parse(const std::string& json)
 {
     if (json.empty())
         return false;
+    // Read as Document::Parse(text, length) reads, but iteratively and with a limit on the
+    // nesting; a text nested too deeply fails as "terminated by the handler".
     rapidjson::Document document;
-    document.Parse(json.c_str(), json.size());
-    if (document.HasParseError()) {
+    rapidjson::Reader reader;
+    auto read = [&](rapidjson::Document& target) {
+        rapidjson::MemoryStream memory(json.data(), json.size());
+        rapidjson::EncodedInputStream<rapidjson::UTF8<>, rapidjson::MemoryStream> input(memory);
+        NestingLimitedHandler handler(target);
+        return !reader.Parse<rapidjson::kParseIterativeFlag>(input, handler).IsError();
+    };
+    document.Populate(read);
+    if (reader.HasParseError()) {
         logError(Plinth::StringUtil::FormatString("Parsing JSON fails.[ParseErrorCode=%d,ErrorOffset=%d,json=%s]",
-                                                  static_cast<int>(document.GetParseError()),
-                                                  static_cast<int>(document.GetErrorOffset()), json.c_str()),
+                                                  static_cast<int>(reader.GetParseErrorCode()),
+                                                  static_cast<int>(reader.GetErrorOffset()), json.c_str()),
                  PLINTH_LOCATION);
         return false;
     }

@@ -41,7 +41,11 @@ void CLayoutPanel::applyLegends()
         return;
     }
     hideFiberOpticalLegend(true);
-    if (!hasOptical)
+    // A fixed switch shows the optical entry only when it has an optical port: several share
+    // an image set with optical images and have none.
+    const bool showsOptical =
+        m_layout.family == Family::FixedSwitch ? m_layout.hasPortOfKind(PortKind::Optical) : hasOptical;
+    if (!showsOptical)
         hideOpticalLegend(true);
     if (m_layout.hideElectricalLegend)
         hideElectricalLegend(true);
@@ -152,7 +156,7 @@ void CLayoutPanel::setPortAlarm(unsigned port, bool alarmed)
     PortKind kind = PortKind::Electrical;
     bool haveKind = false;
     if (!m_layout.alarmKinds.empty()) {
-        haveKind = m_layout.alarmKindOf(static_cast<int>(port), kind);
+        haveKind = m_layout.alarmKindOf(port, kind);
     } else {
         const auto it = portKinds.find(port);
         if (it != portKinds.end() && (it->second == kElectricalKind || it->second == kOpticalKind)) {
@@ -177,7 +181,7 @@ QPixmap* CLayoutPanel::pixmapOf(int id) const
 const ImageGroup* CLayoutPanel::groupFor(PortKind kind, unsigned port) const
 {
     const ImageSet& set = *m_layout.images;
-    const RowForm form = set.hasTwoForms(kind) ? formOf(static_cast<int>(port), m_oddPortsUp) : RowForm::Any;
+    const RowForm form = set.hasTwoForms(kind) ? formOf(static_cast<int>(port % 2u), m_oddPortsUp) : RowForm::Any;
     return set.group(kind, form);
 }
 

@@ -241,15 +241,22 @@ bool PanelLayout::isCombo(int port) const
     return std::any_of(comboPorts.begin(), comboPorts.end(), [port](const PortRange& r) { return r.contains(port); });
 }
 
-bool PanelLayout::alarmKindOf(int port, PortKind& kind) const
+bool PanelLayout::alarmKindOf(unsigned port, PortKind& kind) const
 {
     for (const KindRange& r : alarmKinds) {
-        if (port >= r.first && port <= r.last) {
+        const bool aboveFirst = r.first <= 0 || port >= static_cast<unsigned>(r.first);
+        const bool belowLast = r.last == kNoLastPort || (r.last >= 0 && port <= static_cast<unsigned>(r.last));
+        if (aboveFirst && belowLast) {
             kind = r.kind;
             return true;
         }
     }
     return false;
+}
+
+bool PanelLayout::hasPortOfKind(PortKind kind) const
+{
+    return std::any_of(runs.begin(), runs.end(), [kind](const Run& r) { return r.kind == kind; });
 }
 
 int PanelLayout::imageCount() const { return 1 + static_cast<int>(images ? images->images.size() : 0); }
@@ -415,13 +422,18 @@ Size shapeSize(Shape shape)
         return Size{100, 100};
     case Shape::Logo:
         return Size{48, 7};
+    // The logical panel's columns: a port cell is its image's height plus the device's margin
+    // on each side (2 on the devices we know), so a 12-high port makes a 16-wide cell, as wide
+    // as a "septalSpace" column; the border images are as wide as that cell and a row high.
+    // A column without its own width draws as wide as the one before it, so with all three
+    // equal no column overlaps or leaves a gap.
     case Shape::LogicalElectricalUp:
     case Shape::LogicalElectricalDown:
     case Shape::LogicalOptical:
-        return Size{24, 24};
+        return Size{12, 12};
     case Shape::LogicalOrderRight:
     case Shape::LogicalOrderLeft:
-        return Size{12, 24};
+        return Size{16, 12};
     }
     return Size{};
 }

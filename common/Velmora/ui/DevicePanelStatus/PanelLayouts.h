@@ -311,7 +311,10 @@ struct PanelLayout {
     const Run* runOf(int port) const;
     bool isCombo(int port) const;
     // The kind whose alarm image port `port` shows; false when the row keeps the image.
-    bool alarmKindOf(int port, PortKind& kind) const;
+    // Every unsigned number counts: a range up to kNoLastPort has no upper end.
+    bool alarmKindOf(unsigned port, PortKind& kind) const;
+    // True when a run of the table places a port of `kind`.
+    bool hasPortOfKind(PortKind kind) const;
     int imageCount() const; // frame included
 };
 

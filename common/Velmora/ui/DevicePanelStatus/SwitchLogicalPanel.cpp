@@ -1,6 +1,7 @@
 #include "SwitchLogicalPanel.h"
 
 #include <QEvent>
+#include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -37,6 +38,20 @@ enum { kPortWidth = 0, kPortHeight = 1, kBorderWidth = 2, kBorderHeight = 3 };
 enum { kOrderRight = 11, kOrderLeft = 12 };
 
 const char* const kConnected = "connected";
+
+// A label strip is one column wide; its label takes the largest of these sizes that fits.
+constexpr int kLabelPixelSize = 9;
+constexpr int kSmallestLabelPixelSize = 5;
+
+QFont labelFont(QFont font, const QString& text, int width)
+{
+    for (int size = kLabelPixelSize; size >= kSmallestLabelPixelSize; --size) {
+        font.setPixelSize(size);
+        if (QFontMetrics(font).horizontalAdvance(text) <= width)
+            break;
+    }
+    return font;
+}
 
 } // namespace
 
@@ -235,9 +250,11 @@ void CSwitchLogicalPanel::renderPanelPixmap()
     QPainter painter(&panelPixmap);
     portCells.clear();
     int x = kSideMargin;
+    // The column width starts as a port cell's; only a border or a space sets it, and every
+    // other column draws as wide as the one before. The border images are made as wide as a
+    // port cell, so that the columns after a border neither overlap nor leave a gap.
+    int w = cellWidth;
     for (int i = 0; i <= cells - rows; i += rows) {
-        // A column is as wide as a port cell unless it holds a border or a space.
-        int w = cellWidth;
         for (int r = 0; r < rows; ++r) {
             const Quillon::PanelCell& cell = panel.cellList[static_cast<std::size_t>(i + r)];
             const bool isPort = cell.cellType == "port";
@@ -261,8 +278,10 @@ void CSwitchLogicalPanel::renderPanelPixmap()
                 painter.setBrush(kStripColor);
                 painter.drawRect(rect);
                 if (isPort) {
+                    const QString label = QString::fromStdString(cell.label);
                     painter.setPen(Qt::white);
-                    painter.drawText(rect, Qt::AlignCenter, QString::fromStdString(cell.label));
+                    painter.setFont(labelFont(font(), label, rect.width()));
+                    painter.drawText(rect, Qt::AlignCenter, label);
                 }
             }
 

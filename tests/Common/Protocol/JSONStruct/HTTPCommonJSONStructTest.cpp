@@ -1,9 +1,12 @@
 // The service envelopes and the error code text: parsing, failures and their log lines,
-// and the text each envelope writes.
+// the text each envelope writes, and answers nested too deeply.
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
+#include <vector>
 
+#include "DeepJson.h"
 #include "JSONStruct/HTTP/HTTPCommonJSONStruct.h"
 #include "JSONStruct/Topology/TopologyJSONStruct.h"
 #include "RecordTestSupport.h"
@@ -231,4 +234,141 @@ TEST(RapidJsonEnvelope, SerializeThroughTheWriter)
     EXPECT_EQ(envelope.Serialize(), R"({"code":"2-8","msg":"m","data":{"switchAlarmList":[{"port":0,"isAlarm":false}]}})");
     RJReturnData bare;
     EXPECT_EQ(bare.Serialize(), R"({"code":"0-0","msg":""})");
+}
+
+// ---------------------------------------------------------------------------------------------
+// Answers nested deeper than any record: each envelope refuses them with its log line, or
+// reads them when they stay within the depth cJSON allows; on the GUI thread and on a pool
+// thread with a small stack alike.
+
+namespace {
+
+constexpr std::size_t kVeryDeep = 100000;
+constexpr std::size_t kDeepest = CJSON_NESTING_LIMIT; // the depth all three envelopes still read
+
+struct ThreeEnvelopes {
+    bool parsed[3] = {false, false, false};
+    std::vector<std::string> errors;
+};
+
+ThreeEnvelopes parseWithEachEnvelope(const std::string& text)
+{
+    ThreeEnvelopes result;
+    LogCapture log;
+    ReturnData service(std::make_shared<DeviceNode>());
+    ReturnDataForVideoWall wall(std::make_shared<SwitchAlarmListData>());
+    RJReturnData rapid(std::make_shared<RJRecordAdapter>(std::make_shared<DeviceNodeListData>()));
+    result.parsed[0] = service.Parse(text);
+    result.parsed[1] = wall.Parse(text);
+    result.parsed[2] = rapid.parse(text);
+    // What was read is written out again, as a caller may do.
+    if (result.parsed[0])
+        service.Serialize();
+    if (result.parsed[1])
+        wall.Serialize();
+    if (result.parsed[2])
+        rapid.Serialize();
+    result.errors = log.errors();
+    return result;
+}
+
+void expectRefusedByAll(const ThreeEnvelopes& result, const std::string& what)
+{
+    for (bool parsed : result.parsed)
+        EXPECT_FALSE(parsed) << what;
+    ASSERT_EQ(result.errors.size(), 3u) << what;
+    EXPECT_EQ(result.errors[0].rfind("Failed to cJSON_Parse( [", 0), 0u) << what;
+    EXPECT_EQ(result.errors[1].rfind("Failed to cJSON_Parse( [", 0), 0u) << what;
+    EXPECT_EQ(result.errors[2].rfind("Parsing JSON fails.[ParseErrorCode=" +
+                                         std::to_string(rapidjson::kParseErrorTermination) + ",",
+                                     0),
+              0u)
+        << what;
+}
+
+void expectReadByAll(const ThreeEnvelopes& result, const std::string& what)
+{
+    for (bool parsed : result.parsed)
+        EXPECT_TRUE(parsed) << what;
+    EXPECT_TRUE(result.errors.empty()) << what;
+}
+
+struct DeepCase {
+    const char* what;
+    std::string text;
+    bool read;
+};
+
+std::vector<DeepCase> deepCases()
+{
+    using namespace recordtest;
+    return {
+        {"arrays 100000 deep", nestedArrays(kVeryDeep), false},
+        {"objects 100000 deep", nestedObjects(kVeryDeep), false},
+        {"data of objects 100000 deep", answerWithData(nestedObjects(kVeryDeep)), false},
+        {"data of arrays 100000 deep", answerWithData(nestedArrays(kVeryDeep)), false},
+        {"unclosed arrays 100000 deep", std::string(kVeryDeep, '['), false},
+        {"one level too deep", answerWithData(nestedObjects(kDeepest)), false},
+        {"arrays one level too deep", nestedArrays(kDeepest + 1), false},
+        {"data as deep as allowed", answerWithData(nestedObjects(kDeepest - 1)), true},
+        {"arrays as deep as allowed", nestedArrays(kDeepest), true},
+    };
+}
+
+void checkDeepCases()
+{
+    for (const DeepCase& c : deepCases()) {
+        const ThreeEnvelopes result = parseWithEachEnvelope(c.text);
+        if (c.read)
+            expectReadByAll(result, c.what);
+        else
+            expectRefusedByAll(result, c.what);
+    }
+}
+
+} // namespace
+
+TEST(DeeplyNestedAnswers, AreRefusedWithALogLineOrReadByAllThreeEnvelopes)
+{
+    checkDeepCases();
+}
+
+TEST(DeeplyNestedAnswers, OnAPoolThreadWithASmallStackToo)
+{
+    recordtest::runOnPoolThread(checkDeepCases);
+}
+
+TEST(DeeplyNestedAnswers, DataAsDeepAsAllowedReachesTheRecord)
+{
+    // The record reads what it knows next to a deep value it doesn't.
+    const std::string text = recordtest::answerWithData(R"({"SWITCHALARMLIST":[{"port":7,"isAlarm":true}],"deep":)" +
+                                                        recordtest::nestedArrays(kDeepest - 2) + "}");
+    auto run = [&] {
+        auto alarms = std::make_shared<SwitchAlarmListData>();
+        RJReturnData rapid(std::make_shared<RJRecordAdapter>(alarms));
+        EXPECT_TRUE(rapid.parse(text));
+        ASSERT_EQ(alarms->switchAlarmList.size(), 1u);
+        EXPECT_EQ(alarms->switchAlarmList[0].port, 7);
+        auto viaCJson = std::make_shared<SwitchAlarmListData>();
+        ReturnData service(viaCJson);
+        EXPECT_TRUE(service.Parse(text));
+        ASSERT_EQ(viaCJson->switchAlarmList.size(), 1u);
+        EXPECT_EQ(viaCJson->switchAlarmList[0].port, 7);
+    };
+    run();
+    recordtest::runOnPoolThread(run);
+}
+
+TEST(DeeplyNestedAnswers, RecordAdapterLogsAValueTooDeepForCJson)
+{
+    rapidjson::Document document;
+    document.Parse(recordtest::nestedArrays(kDeepest + 1).c_str());
+    ASSERT_FALSE(document.HasParseError());
+    auto alarms = std::make_shared<SwitchAlarmListData>();
+    RJRecordAdapter adapter(alarms);
+    LogCapture log;
+    adapter.fromJSON(document);
+    ASSERT_EQ(log.errors().size(), 1u);
+    EXPECT_EQ(log.errors()[0].rfind("Failed to cJSON_Parse( [", 0), 0u);
+    EXPECT_TRUE(alarms->switchAlarmList.empty());
 }

@@ -1,15 +1,19 @@
 // Every record, filled with values other than its defaults, survives write, print, parse
-// and read, and its copy equals it. Filling and comparing walk each record's own field
+// and read, and its copy equals it; deeply nested answers never crash its reading. Filling and comparing walk each record's own field
 // table, so a new record needs only its name in the list below.
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <tuple>
+#include <type_traits>
 
 #include "JSONStruct/Capability/CapabilityJSONStruct.h"
 #include "JSONStruct/PassThrough/NxrpcPassThroughJSONStruct.h"
 #include "JSONStruct/Switch/SwitchJSONStruct.h"
 #include "JSONStruct/Topology/TopologyJSONStruct.h"
+#include "DeepJson.h"
+#include "JSONStruct/HTTP/HTTPCommonJSONStruct.h"
 #include "RecordTestSupport.h"
 
 namespace {
@@ -225,4 +229,65 @@ TYPED_TEST(RecordRoundTrip, CopyEqualsTheOriginal)
     assigned = filled;
     expectSame(filled, assigned, "assigned");
     EXPECT_EQ(assigned.presentKeys, filled.presentKeys);
+}
+
+// Every record behind each envelope, and read straight from the tree, with answers nested far
+// deeper than the record and with a deep value under each of its keys: refused with a log
+// line or read, never a crash, on the GUI thread and on a pool thread with a small stack.
+template <class Record>
+std::string deepValueUnderEachKey()
+{
+    // The answer, the record and the value: as deep as the envelopes allow.
+    std::string object = "{";
+    std::apply(
+        [&](const auto&... decl) {
+            ((object += (object.size() > 1 ? ",\"" : "\"") + std::string(decl.key) + "\":" +
+                        recordtest::nestedArrays(CJSON_NESTING_LIMIT - 2)),
+             ...);
+        },
+        Record::fieldTable());
+    return object + "}";
+}
+
+template <class Record>
+void readDeepAnswers()
+{
+    struct Case {
+        std::string text;
+        bool read;
+    };
+    const Case cases[] = {
+        {recordtest::nestedObjects(100000), false},
+        {recordtest::answerWithData(recordtest::nestedObjects(100000)), false},
+        {recordtest::answerWithData(recordtest::nestedArrays(100000)), false},
+        {recordtest::answerWithData(deepValueUnderEachKey<Record>()), true},
+    };
+    for (const Case& c : cases) {
+        recordtest::LogCapture log;
+        int refused = 0;
+        recordtest::Json tree = recordtest::parse(c.text);
+        Record direct;
+        direct.fromJSON(tree.get());
+        recordtest::Json written(direct.toJSON());
+        EXPECT_NE(written, nullptr);
+        if constexpr (std::is_base_of_v<protocol::IReturnData, Record>) {
+            protocol::ReturnData service(std::make_shared<Record>());
+            refused += !service.Parse(c.text);
+            protocol::ReturnDataForVideoWall wall(std::make_shared<Record>());
+            refused += !wall.Parse(c.text);
+            protocol::RJReturnData rapid(std::make_shared<protocol::RJRecordAdapter>(std::make_shared<Record>()));
+            refused += !rapid.parse(c.text);
+            service.Serialize();
+            rapid.Serialize();
+            EXPECT_EQ(refused, c.read ? 0 : 3);
+            EXPECT_EQ(log.errors().size(), c.read ? 0u : 3u);
+        }
+        EXPECT_EQ(tree == nullptr, !c.read);
+    }
+}
+
+TYPED_TEST(RecordRoundTrip, DeeplyNestedAnswersAreRefusedOrReadWithoutACrash)
+{
+    readDeepAnswers<TypeParam>();
+    recordtest::runOnPoolThread(readDeepAnswers<TypeParam>);
 }

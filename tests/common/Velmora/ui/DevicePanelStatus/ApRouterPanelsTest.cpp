@@ -138,6 +138,11 @@ TEST_F(ApRouterPanelsTest, AlarmedPortIsSkippedSoTheInternetImageDoesNotReplaceI
     EXPECT_EQ(A::portPixmaps(panel.get())[2], images[3]);
     panel->setPortAlarm(2, false);
     EXPECT_EQ(A::portPixmaps(panel.get())[2], images[2]);
+    // Every unsigned port number takes the alarm image, existing or not.
+    for (unsigned port : {0x80000000u, 0xffffffffu}) {
+        panel->setPortAlarm(port, true);
+        EXPECT_EQ(A::portPixmaps(panel.get())[port], images[3]) << port;
+    }
 }
 
 TEST_F(ApRouterPanelsTest, RouterWithoutPortsFindsNoLinkDownImage)

@@ -114,6 +114,13 @@ TEST_F(BridgePanelsTest, ElectricalStatesAndAlarms)
         // The port need not exist.
         panel->setPortAlarm(30, true);
         EXPECT_EQ(A::portPixmaps(panel.get())[30], images[3]);
+        // Nor stay below 2^31.
+        for (unsigned port : {0x80000000u, 0xffffffffu}) {
+            panel->setPortAlarm(port, true);
+            EXPECT_EQ(A::portPixmaps(panel.get())[port], images[3]) << row.className << " " << port;
+            panel->setPortAlarm(port, false);
+            EXPECT_EQ(A::portPixmaps(panel.get())[port], images[2]) << row.className << " " << port;
+        }
     }
 }
 

@@ -114,6 +114,10 @@ TEST_F(FiberCardPanelsTest, ManagementCardAlarmsEveryPortAsElectrical)
     EXPECT_EQ(A::portPixmaps(&netMg)[7], images[3]);
     netMg.setPortAlarm(2, false);
     EXPECT_EQ(A::portPixmaps(&netMg)[2], images[2]);
+    netMg.setPortAlarm(0x80000000u, true);
+    EXPECT_EQ(A::portPixmaps(&netMg)[0x80000000u], images[3]);
+    netMg.setPortAlarm(0xffffffffu, true);
+    EXPECT_EQ(A::portPixmaps(&netMg)[0xffffffffu], images[3]);
 }
 
 } // namespace

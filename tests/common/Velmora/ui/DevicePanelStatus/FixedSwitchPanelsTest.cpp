@@ -226,13 +226,31 @@ TEST_P(FixedSwitchClassTest, LegendShowsTheKindsOfPortsTheModelHas)
     Ui::UiPanelStatusBase* ui = A::ui(panel.get());
     EXPECT_TRUE(ui->fiberOptionalIconLabel->isHidden());
     EXPECT_TRUE(ui->fiberOptionalTextLabel->isHidden());
-    const bool noOptical = !row->images->hasKind(PortKind::Optical);
+    // Decided by the ports of the table, not by the images the model loads.
+    const bool noOptical = !row->hasPortOfKind(PortKind::Optical);
     EXPECT_EQ(ui->optionalIconLabel->isHidden(), noOptical);
     EXPECT_EQ(ui->optionalTextLabel->isHidden(), noOptical);
     EXPECT_EQ(ui->label->isHidden(), row->hideElectricalLegend);
     EXPECT_EQ(ui->label_2->isHidden(), row->hideElectricalLegend);
     // The page hides the connected entry of switches; the panel itself leaves it.
     EXPECT_FALSE(ui->label_3->isHidden());
+}
+
+TEST_P(FixedSwitchClassTest, UnknownTypeOnAPortWithoutAnImageLeavesItWithout)
+{
+    for (int port : dataPorts()) {
+        const unsigned p = static_cast<unsigned>(port);
+        if (A::portPixmaps(panel.get()).count(p))
+            continue;
+        for (const char* type : {"wireless", "Electrical", "fiber", ""}) {
+            A::applyWorkState(panel.get(), state({item(port, type, "connected")}));
+            const auto& images = A::portPixmaps(panel.get());
+            const auto it = images.find(p);
+            EXPECT_TRUE(it == images.end() || it->second == nullptr) << "port " << port << " type " << type;
+        }
+    }
+    // What is drawn is only the frame where no port has an image.
+    EXPECT_FALSE(paneltest::render(panel.get()).isNull());
 }
 
 TEST_P(FixedSwitchClassTest, ConsolePortShowsItsImageForGood)
@@ -484,6 +502,50 @@ TEST_F(FixedSwitchRulesTest, LegendsOfTheModelsWithoutElectricalPorts)
         EXPECT_TRUE(A::ui(panel.get())->optionalIconLabel->isHidden()) << name;
         EXPECT_FALSE(A::ui(panel.get())->label->isHidden()) << name;
     }
+}
+
+TEST_F(FixedSwitchRulesTest, ModelWithOpticalImagesButNoOpticalPortHidesTheOpticalLegend)
+{
+    // Models that load an image set with optical images but place only electrical ports.
+    std::vector<std::string> names;
+    for (const PanelLayout& row : fixedSwitchLayouts())
+        if (row.images->hasKind(PortKind::Optical) && !row.hasPortOfKind(PortKind::Optical))
+            names.push_back(row.className);
+    ASSERT_FALSE(names.empty());
+    for (const std::string& name : names) {
+        auto panel = makePanel(name, layoutNamed(name).modes().front());
+        EXPECT_TRUE(A::ui(panel.get())->optionalIconLabel->isHidden()) << name;
+        EXPECT_TRUE(A::ui(panel.get())->optionalTextLabel->isHidden()) << name;
+        EXPECT_FALSE(A::ui(panel.get())->label->isHidden()) << name;
+    }
+    // The ten-port model has two optical ports and keeps the entry.
+    CQ110SwitchPanel withOptical(nullptr);
+    EXPECT_FALSE(A::ui(&withOptical)->optionalIconLabel->isHidden());
+    EXPECT_FALSE(A::ui(&withOptical)->optionalTextLabel->isHidden());
+}
+
+TEST_F(FixedSwitchRulesTest, AlarmByPortNumberCoversEveryUnsignedPortNumber)
+{
+    CQ110SwitchPanel panel(nullptr);
+    auto& images = A::pixmaps(&panel);
+    // A port above 8 is optical, whether it exists or not, up to the largest number.
+    for (unsigned port : {9u, 40u, 0x7fffffffu, 0x80000000u, 0x80000001u, 0xfffffffeu, 0xffffffffu}) {
+        panel.setPortAlarm(port, true);
+        EXPECT_EQ(A::portPixmaps(&panel)[port], images[5]) << port;
+        EXPECT_TRUE(A::alarms(&panel).count(port)) << port;
+        panel.setPortAlarm(port, false);
+        EXPECT_EQ(A::portPixmaps(&panel)[port], images[6]) << port;
+        EXPECT_FALSE(A::alarms(&panel).count(port)) << port;
+    }
+    // Models that treat every port as electrical do so above 2^31 too.
+    CQ109SwitchPanel electrical(nullptr);
+    electrical.setPortAlarm(0x80000000u, true);
+    EXPECT_EQ(colorOf(A::portPixmaps(&electrical)[0x80000000u]), rgb(kAlarmColor));
+    electrical.setPortAlarm(0xffffffffu, false);
+    EXPECT_EQ(colorOf(A::portPixmaps(&electrical)[0xffffffffu]), rgb(kNormalColor));
+    // Painting with alarms on ports without a position draws nothing for them and survives.
+    panel.setPortAlarm(0xffffffffu, true);
+    EXPECT_FALSE(paneltest::render(&panel).isNull());
 }
 
 TEST_F(FixedSwitchRulesTest, AModeWithoutAFrameLeavesAnEmptyFrame)

@@ -37,7 +37,9 @@ const char* const kFleet = R"({"name": "panels", "devices": [
   {"model": "QN-1170"},
   {"model": "QN-1138"},
   {"model": "QN-2024", "portOrder": ""},
-  {"model": "QN-2048", "ports": "1-192E,193-200O", "name": "wide-logical", "portOrder": "portNO1", "batch": 0}
+  {"model": "QN-2048", "ports": "1-192E,193-200O", "name": "wide-logical", "portOrder": "portNO1", "batch": 0},
+  {"model": "QN-2048", "name": "demo-logical"},
+  {"model": "QN-2048", "ports": "1-960E,961-1000O", "name": "thousand-logical", "batch": 100}
 ]})";
 
 // The panel class each model of the fleet gets from the page's model tables.
@@ -239,39 +241,56 @@ TEST_F(PanelDeviceTest, ChassisShowTheirBoards)
     }
 }
 
-TEST_F(PanelDeviceTest, LogicalPanelFollowsTheReportedLayout)
+// Where each column of a reported layout starts: a border or a space sets the width, every
+// other column is as wide as the one before, a port cell's before the first.
+std::vector<int> columnStarts(const Quillon::Panel& reported, int cellWidth, int borderWidth)
 {
-    auto device = open(idOf("QN-2024"));
-    CSwitchLogicalPanel panel(nullptr);
-    panel.panelDevice = device;
-    panel.showPanelStatus();
-    Quillon::PanelStatus status{std::string()};
-    ASSERT_TRUE(ParamInterface::getSwitchSlotPanelInfo(status, device->getDeviceId(), 1));
-    ASSERT_FALSE(status.panelList.empty());
-    const Quillon::Panel& reported = status.panelList.front();
-    const int cellWidth = 24 + 2 * reported.portMargin;
-    int width = 0;
-    for (size_t i = 0; i + reported.rowCount <= reported.cellList.size(); i += reported.rowCount) {
+    std::vector<int> starts;
+    int x = 26;
+    int w = cellWidth;
+    const size_t rows = static_cast<size_t>(reported.rowCount);
+    for (size_t i = 0; rows > 0 && i + rows <= reported.cellList.size(); i += rows) {
         const std::string& type = reported.cellList[i].cellType;
-        width += type == "border" ? 12 : type == "septalSpace" ? 16 : cellWidth;
+        if (type == "border")
+            w = borderWidth;
+        else if (type == "septalSpace")
+            w = 16;
+        starts.push_back(x);
+        x += w;
     }
-    EXPECT_EQ(A::panelPixmap(&panel).width(), width + 52);
-    EXPECT_EQ(A::cellWidth(&panel), cellWidth);
-    // An empty order text leaves the direction to each cell.
-    EXPECT_TRUE(A::directionFromCells(&panel));
+    starts.push_back(x);
+    return starts;
+}
 
-    // Each port cell shows its reported state in its column.
-    const Quillon::SwitchesWorkState state = workState();
+// Checks that every port cell of `panel` shows the state the device reports, in the column
+// where the layout puts it, and that the columns neither overlap nor leave gaps: each is
+// a port cell wide and the last ends at the image's right margin. Returns the ports checked.
+int expectPortsInTheirColumns(CSwitchLogicalPanel& panel, const std::string& deviceId,
+                              const Quillon::SwitchesWorkState& state)
+{
+    Quillon::PanelStatus status{std::string()};
+    EXPECT_TRUE(ParamInterface::getSwitchSlotPanelInfo(status, deviceId, 1));
+    if (status.panelList.empty())
+        return 0;
+    const Quillon::Panel& reported = status.panelList.front();
+    const int rowHeight = A::rowHeight(&panel);
+    const int cellWidth = rowHeight + 2 * reported.portMargin;
+    EXPECT_EQ(A::cellWidth(&panel), cellWidth);
+    const std::vector<int> starts = columnStarts(reported, cellWidth, A::logicalSizes(&panel)[120][2]);
+    for (size_t c = 1; c < starts.size(); ++c)
+        EXPECT_EQ(starts[c] - starts[c - 1], cellWidth) << "column " << c - 1;
+    EXPECT_EQ(starts.back() + 26, A::panelPixmap(&panel).width());
+
     std::map<int, const Quillon::SwitchesWorkStateItem*> items;
     for (const auto& item : state.portList)
         items[item.portId] = &item;
     const QImage img = A::panelPixmap(&panel).toImage();
     const int rows = reported.rowCount;
-    const int top = (120 - std::min(rows, 2) * 12 - 24 * rows) / 2;
-    int x = 26;
+    const int top = (120 - std::min(rows, 2) * 12 - rowHeight * rows) / 2;
+    const QColor cellColor(144, 147, 150);
     int checked = 0;
-    for (size_t i = 0; i + rows <= reported.cellList.size(); i += rows) {
-        const std::string& type = reported.cellList[i].cellType;
+    for (size_t i = 0, column = 0; i + rows <= reported.cellList.size(); i += rows, ++column) {
+        const int x = starts[column];
         for (int r = 0; r < rows; ++r) {
             const Quillon::PanelCell& c = reported.cellList[i + r];
             if (c.cellType != "port" || !items.count(c.portId))
@@ -280,12 +299,54 @@ TEST_F(PanelDeviceTest, LogicalPanelFollowsTheReportedLayout)
             const QColor expected = item->portRemark == "connected" && c.portType == "electrical"
                                         ? rgb(kInternetColor)
                                         : rgb(item->linkState == "connected" ? kNormalColor : kNotConnectedColor);
-            EXPECT_EQ(img.pixelColor(x + reported.portMargin + 2, top + 12 + 24 * r + 2), expected) << "port " << c.portId;
+            const int y = top + 12 + rowHeight * r;
+            EXPECT_EQ(img.pixelColor(x + reported.portMargin + 1, y + 1), expected) << "port " << c.portId;
+            EXPECT_EQ(img.pixelColor(x + reported.portMargin + rowHeight - 2, y + 1), expected) << "port " << c.portId;
+            // The cell's own grey on both sides: no neighbour drawn over it.
+            EXPECT_EQ(img.pixelColor(x, y + rowHeight / 2), cellColor) << "port " << c.portId;
+            EXPECT_EQ(img.pixelColor(x + cellWidth - 1, y + rowHeight / 2), cellColor) << "port " << c.portId;
             ++checked;
         }
-        x += type == "border" ? 12 : type == "septalSpace" ? 16 : cellWidth;
     }
-    EXPECT_GT(checked, 20);
+    return checked;
+}
+
+TEST_F(PanelDeviceTest, LogicalPanelFollowsTheReportedLayout)
+{
+    auto device = open(idOf("QN-2024"));
+    CSwitchLogicalPanel panel(nullptr);
+    panel.panelDevice = device;
+    panel.showPanelStatus();
+    // An empty order text leaves the direction to each cell.
+    EXPECT_TRUE(A::directionFromCells(&panel));
+    EXPECT_GT(expectPortsInTheirColumns(panel, device->getDeviceId(), workState()), 20);
+}
+
+TEST_F(PanelDeviceTest, LogicalPanelsOfTheDemoAndOfAThousandPortsDrawEveryPortInItsColumn)
+{
+    QDir().mkpath(paneltest::snapshotDir());
+    struct Device {
+        std::string model, name;
+        int ports;
+    };
+    for (const Device& d : {Device{"QN-2024", "", 24}, Device{"QN-2048", "demo-logical", 48},
+                            Device{"QN-2048", "thousand-logical", 1000}}) {
+        SCOPED_TRACE(d.model + " " + d.name);
+        auto device = open(idOf(d.model, d.name));
+        ASSERT_TRUE(device);
+        CSwitchLogicalPanel panel(nullptr);
+        panel.panelDevice = device;
+        panel.showPanelStatus();
+        EXPECT_GE(expectPortsInTheirColumns(panel, device->getDeviceId(), workState()), d.ports);
+        const std::string file = "/CSwitchLogicalPanel_" + d.model + (d.name.empty() ? "" : "_" + d.name) + ".png";
+        EXPECT_TRUE(A::panelPixmap(&panel).save(paneltest::snapshotDir() + QString::fromStdString(file)));
+        // The panel as the page shows it, shrunk to its frame where it is wider.
+        panel.resize(1095, 242);
+        EXPECT_TRUE(paneltest::render(&panel).save(paneltest::snapshotDir() +
+                                                   QString::fromStdString("/CSwitchLogicalPanel_" + d.model +
+                                                                          (d.name.empty() ? "" : "_" + d.name) +
+                                                                          "_shown.png")));
+    }
 }
 
 TEST_F(PanelDeviceTest, WideLogicalPanelIsMagnifiedUnderTheMouse)

@@ -30,7 +30,8 @@ Quillon::PanelCell cell(const std::string& type, const std::string& portType = s
 }
 
 // A grid of `rows` rows given column by column.
-Quillon::Panel grid(int rows, std::vector<std::vector<Quillon::PanelCell>> columns, int margin = 3)
+// The margin is the one of the emulated devices unless a test gives another.
+Quillon::Panel grid(int rows, std::vector<std::vector<Quillon::PanelCell>> columns, int margin = 2)
 {
     Quillon::Panel p;
     p.rowCount = rows;
@@ -63,23 +64,33 @@ class SwitchLogicalPanelTest : public ::testing::Test {
 protected:
     static void SetUpTestSuite() { paneltest::initArt(); }
 
-    // x of column `column` of twoRowPanel().
+    static constexpr int kRow = 12;    // height of the port images
+    static constexpr int kBorder = 16; // width of the border images
+    static constexpr int kMargin = 2;
+
+    // x of column `column` of twoRowPanel(): a border or a space sets the width, the other
+    // columns keep the width of the column before (a port cell's before the first).
     int columnX(CSwitchLogicalPanel* p, int column) const
     {
-        const int w = A::cellWidth(p);
-        const int widths[] = {12, w, w, w, w, 16, w, w, w, 12};
+        const char types[] = "BPPPPSPPNB";
+        int w = A::cellWidth(p);
         int x = 26;
-        for (int i = 0; i < column; ++i)
-            x += widths[i];
+        for (int i = 0; i < column; ++i) {
+            if (types[i] == 'B')
+                w = kBorder;
+            else if (types[i] == 'S')
+                w = 16;
+            x += w;
+        }
         return x;
     }
-    static constexpr int kTop = (120 - 2 * 12 - 24 * 2) / 2; // 24
-    static int rowY(int row) { return kTop + 12 + 24 * row; }
+    static constexpr int kTop = (120 - 2 * 12 - kRow * 2) / 2; // 36
+    static int rowY(int row) { return kTop + 12 + kRow * row; }
 
     // Colour of a port image at (x + margin + dx, y + dy) of its cell.
-    QColor portPixel(CSwitchLogicalPanel* p, int column, int row, QPoint d = QPoint(2, 2)) const
+    QColor portPixel(CSwitchLogicalPanel* p, int column, int row, QPoint d = QPoint(1, 1)) const
     {
-        return A::panelPixmap(p).toImage().pixelColor(columnX(p, column) + 3 + d.x(), rowY(row) + d.y());
+        return A::panelPixmap(p).toImage().pixelColor(columnX(p, column) + kMargin + d.x(), rowY(row) + d.y());
     }
 };
 
@@ -106,10 +117,11 @@ TEST_F(SwitchLogicalPanelTest, ImagesAndSizesPerDeviceCategory)
         for (const auto& image : A::logicalPixmaps(&panel)[category])
             EXPECT_FALSE(image.second.isNull()) << category << " " << image.first;
         auto& sizes = A::logicalSizes(&panel)[category];
-        EXPECT_EQ(sizes[0], 24);
-        EXPECT_EQ(sizes[1], 24);
-        EXPECT_EQ(sizes[2], 12);
-        EXPECT_EQ(sizes[3], 24);
+        EXPECT_EQ(sizes[0], 12);
+        EXPECT_EQ(sizes[1], 12);
+        // A border is as wide as a port cell of the emulated devices and a row high.
+        EXPECT_EQ(sizes[2], 12 + 2 * kMargin);
+        EXPECT_EQ(sizes[3], 12);
     }
     // The bridge category has its own look.
     EXPECT_NE(A::logicalPixmaps(&panel)[121][0].toImage(), A::logicalPixmaps(&panel)[120][0].toImage());
@@ -128,7 +140,7 @@ TEST_F(SwitchLogicalPanelTest, CategoryWithoutImagesGetsAnEmptyMapAndSizesZero)
     EXPECT_FALSE(A::logicalPixmaps(&panel).count(122));
     A::setPanel(&panel, twoRowPanel(), 122);
     EXPECT_EQ(A::rowHeight(&panel), 0);
-    EXPECT_EQ(A::cellWidth(&panel), 6);
+    EXPECT_EQ(A::cellWidth(&panel), 2 * kMargin);
     for (int key : {0, 1, 2, 3})
         EXPECT_EQ(A::logicalSizes(&panel)[122][key], 0) << key;
     A::applyWorkState(&panel, state({item(1, "electrical", "connected")}));
@@ -139,10 +151,10 @@ TEST_F(SwitchLogicalPanelTest, ImageWidthAddsUpTheColumns)
 {
     CSwitchLogicalPanel panel(nullptr);
     A::setPanel(&panel, twoRowPanel(), 120);
-    EXPECT_EQ(A::rowHeight(&panel), 24);
-    EXPECT_EQ(A::cellWidth(&panel), 24 + 2 * 3);
+    EXPECT_EQ(A::rowHeight(&panel), 12);
+    EXPECT_EQ(A::cellWidth(&panel), 12 + 2 * kMargin);
     // Two borders, seven port-wide columns (a "none" too), one space, and 26 on each side.
-    EXPECT_EQ(A::panelPixmap(&panel).width(), 2 * 12 + 7 * 30 + 16 + 52);
+    EXPECT_EQ(A::panelPixmap(&panel).width(), 2 * kBorder + 7 * 16 + 16 + 52);
     EXPECT_EQ(A::panelPixmap(&panel).height(), 120);
     EXPECT_EQ(A::panelPixmap(&panel).toImage().pixelColor(1, 1), QColor(121, 124, 128));
 }
@@ -207,9 +219,9 @@ TEST_F(SwitchLogicalPanelTest, CellsStripsAndBordersAreDrawnInPlace)
     const int xLast = columnX(&panel, 9);
     EXPECT_EQ(img.pixelColor(xLast + 2, kTop + 2), plate);
     // The space and the "none" column draw nothing.
-    EXPECT_EQ(img.pixelColor(columnX(&panel, 5) + 8, rowY(0) + 12), plate);
-    EXPECT_EQ(img.pixelColor(columnX(&panel, 8) + 15, rowY(0) + 12), plate);
-    EXPECT_EQ(img.pixelColor(columnX(&panel, 8) + 15, kTop + 2), plate);
+    EXPECT_EQ(img.pixelColor(columnX(&panel, 5) + 8, rowY(0) + 6), plate);
+    EXPECT_EQ(img.pixelColor(columnX(&panel, 8) + 10, rowY(0) + 6), plate);
+    EXPECT_EQ(img.pixelColor(columnX(&panel, 8) + 10, kTop + 2), plate);
 }
 
 TEST_F(SwitchLogicalPanelTest, BorderAfterPortsInsetsItsStripOnTheRight)
@@ -218,18 +230,76 @@ TEST_F(SwitchLogicalPanelTest, BorderAfterPortsInsetsItsStripOnTheRight)
     A::setPanel(&panel, grid(1, {{cell("port", "electrical", 1, "up", "1")}, {cell("border")}}), 120);
     A::applyWorkState(&panel, state({}));
     const QImage img = A::panelPixmap(&panel).toImage();
-    const int xBorder = 26 + 30;
-    const int top = (120 - 12 - 24) / 2;
+    const int xBorder = 26 + 16;
+    const int top = (120 - 12 - kRow) / 2;
     EXPECT_EQ(img.pixelColor(xBorder + 1, top + 2), QColor(132, 135, 138));
     EXPECT_EQ(img.pixelColor(xBorder + 10, top + 2), QColor(121, 124, 128));
     // One row: only the top strip, and the port faces up.
-    EXPECT_EQ(img.pixelColor(26 + 1, top + 12 + 24 + 2), QColor(121, 124, 128));
+    EXPECT_EQ(img.pixelColor(26 + 1, top + 12 + kRow + 2), QColor(121, 124, 128));
+}
+
+TEST_F(SwitchLogicalPanelTest, ColumnWidthCarriesOverUntilABorderOrASpaceSetsIt)
+{
+    // A device with a wider margin than the art was made for: port cells 12 + 2 * 5 wide.
+    // port 1 | port 2 | border | port 3 | port 4 | space | port 5
+    CSwitchLogicalPanel panel(nullptr);
+    const int margin = 5;
+    A::setPanel(&panel,
+                grid(1,
+                     {{cell("port", "electrical", 1, "up", "1")}, {cell("port", "electrical", 2, "up", "2")},
+                      {cell("border")}, {cell("port", "electrical", 3, "up", "3")},
+                      {cell("port", "electrical", 4, "up", "4")}, {cell("septalSpace")},
+                      {cell("port", "electrical", 5, "up", "5")}},
+                     margin),
+                120);
+    const int cellW = 12 + 2 * margin;
+    EXPECT_EQ(A::cellWidth(&panel), cellW);
+    // The image width counts each port column as a port cell.
+    EXPECT_EQ(A::panelPixmap(&panel).width(), 5 * cellW + kBorder + 16 + 52);
+    A::applyWorkState(&panel, state({item(1, "electrical", "connected"), item(2, "electrical", "disconnected"),
+                                     item(3, "electrical", "connected"), item(4, "electrical", "disconnected"),
+                                     item(5, "electrical", "connected")}));
+    const QImage img = A::panelPixmap(&panel).toImage();
+    const int y = (120 - 12 - kRow) / 2 + 12 + 2;
+    auto portAt = [&](int columnX) { return img.pixelColor(columnX + margin + 2, y); };
+    // Before the border the columns are a port cell wide.
+    EXPECT_EQ(portAt(26), rgb(kNormalColor));
+    EXPECT_EQ(portAt(26 + cellW), rgb(kNotConnectedColor));
+    // After the border the port columns keep the border's width...
+    const int afterBorder = 26 + 2 * cellW + kBorder;
+    EXPECT_EQ(portAt(afterBorder), rgb(kNormalColor));
+    EXPECT_EQ(portAt(afterBorder + kBorder), rgb(kNotConnectedColor));
+    // ...and after the space the space's width.
+    EXPECT_EQ(portAt(afterBorder + 2 * kBorder + 16), rgb(kNormalColor));
+}
+
+TEST_F(SwitchLogicalPanelTest, EmulatedDeviceColumnsNeitherOverlapNorLeaveGaps)
+{
+    // With the devices' margin a port cell, a border and a space are equally wide: each port
+    // image stands alone in its own column, with the cell's grey on both sides.
+    CSwitchLogicalPanel panel(nullptr);
+    A::setPanel(&panel, twoRowPanel(), 120);
+    ASSERT_EQ(A::cellWidth(&panel), kBorder);
+    A::applyWorkState(&panel, state({}, "portNO1"));
+    const QImage img = A::panelPixmap(&panel).toImage();
+    const QColor cellColor(144, 147, 150);
+    for (int column : {1, 2, 3, 4, 6, 7}) {
+        const int x = columnX(&panel, column);
+        EXPECT_EQ(x, 26 + 16 * column) << column;
+        for (int row : {0, 1}) {
+            EXPECT_EQ(img.pixelColor(x, rowY(row) + 6), cellColor) << column;
+            EXPECT_EQ(img.pixelColor(x + 15, rowY(row) + 6), cellColor) << column;
+            EXPECT_EQ(img.pixelColor(x + kMargin + 1, rowY(row) + 1), rgb(kNotConnectedColor)) << column;
+        }
+    }
+    // The last border closes the image at its right margin.
+    EXPECT_EQ(columnX(&panel, 9) + kBorder + 26, A::panelPixmap(&panel).width());
 }
 
 TEST_F(SwitchLogicalPanelTest, OrderTextDecidesWhichPortsFaceUp)
 {
-    // Up images have solid colour at (6, 7) of the port, down images their cavity.
-    const QPoint probe(6, 7);
+    // Up images have solid colour at (3, 3) of the port, down images their cavity.
+    const QPoint probe(3, 3);
     auto faces = [&](CSwitchLogicalPanel* p, int column, int row) {
         return portPixel(p, column, row, probe) == rgb(kNotConnectedColor) ? "up" : "down";
     };
@@ -267,12 +337,12 @@ TEST_F(SwitchLogicalPanelTest, UnexpectedEntriesGiveNoImage)
     A::applyWorkState(&panel, state({item(1, "multiplex", "connected"), item(2, "optical", "connected", "connected"),
                                      item(3, "electrical", "connected")}));
     const QImage img = A::panelPixmap(&panel).toImage();
-    const int top = (120 - 12 - 24) / 2 + 12;
+    const int top = (120 - 12 - kRow) / 2 + 12;
     const QColor cellColor(144, 147, 150);
-    EXPECT_EQ(img.pixelColor(26 + 3 + 2, top + 2), cellColor);       // neither type: null image
-    EXPECT_EQ(img.pixelColor(26 + 30 + 3 + 2, top + 2), cellColor);  // optical in state 3: null image
-    EXPECT_EQ(img.pixelColor(26 + 60 + 3 + 2, top + 2), rgb(kNormalColor));
-    EXPECT_EQ(img.pixelColor(26 + 90 + 3 + 2, top + 2), rgb(kNotConnectedColor)); // no entry: unlinked optical
+    EXPECT_EQ(img.pixelColor(26 + kMargin + 1, top + 1), cellColor);      // neither type: null image
+    EXPECT_EQ(img.pixelColor(26 + 16 + kMargin + 1, top + 1), cellColor); // optical in state 3: null image
+    EXPECT_EQ(img.pixelColor(26 + 32 + kMargin + 1, top + 1), rgb(kNormalColor));
+    EXPECT_EQ(img.pixelColor(26 + 48 + kMargin + 1, top + 1), rgb(kNotConnectedColor)); // no entry: unlinked optical
 }
 
 TEST_F(SwitchLogicalPanelTest, NarrowPanelIsCentredAndLeavesTheMagnifierAlone)
@@ -301,7 +371,7 @@ TEST_F(SwitchLogicalPanelTest, WidePanelIsShrunkAndMagnifiedUnderTheMouse)
         items.push_back(item(port, "electrical", port % 3 ? "connected" : "disconnected"));
     A::applyWorkState(&panel, state(items, "portNO1"));
     const int imageWidth = A::panelPixmap(&panel).width();
-    EXPECT_EQ(imageWidth, 100 * 30 + 52);
+    EXPECT_EQ(imageWidth, 100 * 16 + 52);
 
     panel.show();
     panel.resize(1095, 242);

@@ -446,6 +446,28 @@ TEST_F(SwitchDeviceStatusWidgetTest, ApViewShowsTheApAndTheBackButtonReturnsToRo
     }
 }
 
+TEST_F(SwitchDeviceStatusWidgetTest, AControllerWithoutApGroupsGoesBackByRowNumberToo)
+{
+    auto dialog = open("ac-plain");
+    const DialogParts parts = partsOf(*dialog);
+    const std::vector<int> keys = rowKeys(parts);
+    const std::vector<Quillon::ApInfo> aps = managedAps("ac-plain");
+    ASSERT_FALSE(aps.empty());
+    openApView(*dialog, QString::fromStdString(aps.front().ipAddress), QString::fromStdString(aps.front().macAddress));
+    EXPECT_FALSE(parts.backButton->isHidden());
+
+    parts.backButton->click();
+    EXPECT_TRUE(parts.backButton->isHidden());
+    EXPECT_EQ(rowKeys(parts), keys);
+    // Row 3 by its number, whatever option the row holds on this controller.
+    if (keys.size() > 3) {
+        EXPECT_EQ(parts.tree->currentIndex(), parts.tree->model()->index(3, 0));
+        EXPECT_EQ(parts.tree->currentIndex().data(Qt::UserRole).toInt(), keys[3]);
+    } else {
+        EXPECT_FALSE(parts.tree->currentIndex().isValid());
+    }
+}
+
 TEST_F(SwitchDeviceStatusWidgetTest, ApViewOfAnUnlistedApLeavesTheRunTime)
 {
     auto dialog = open("ac-plain");

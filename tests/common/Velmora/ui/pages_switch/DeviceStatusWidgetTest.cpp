@@ -16,6 +16,7 @@
 
 #include "DeviceStatusWidget.h"
 #include "DeviceTypeString.h"
+#include "JSONStruct/HTTP/HTTPCommonJSONStruct.h"
 #include "PortDetailInfoModel.h"
 #include "SwitchPagesTestFleet.h"
 #include "TarvexGUIToolkit/File.h"
@@ -778,6 +779,41 @@ TEST_F(DeviceStatusWidgetTest, UnknownFarDeviceDropsOnlyItsPort)
     EXPECT_EQ(failures, 1);
 }
 
+TEST_F(DeviceStatusWidgetTest, LinkPorts257And1ShareTheirKeyAndSortTogether)
+{
+    // The device's own node, its ports renumbered 2, 257, 1 and 3, all towards one far device.
+    protocol::DeviceNode node;
+    ASSERT_TRUE(senvia::CTopologyConfigComm::getOneDeviceNode(fleet().id("edge"), node));
+    const std::vector<Row> real = expectedRows(fleet().id("edge"));
+    ASSERT_FALSE(real.empty());
+    protocol::PortNode linked;
+    for (const protocol::PortNode& port : node.portNodeList)
+        if (port.portName == real.front().name.toStdString())
+            linked = port;
+    ASSERT_FALSE(linked.peerNodeList.empty());
+    node.portNodeList.clear();
+    for (int linkPort : {2, 257, 1, 3}) {
+        protocol::PortNode port = linked;
+        port.linkPort = linkPort;
+        port.portName = "port-" + std::to_string(linkPort);
+        node.portNodeList.push_back(port);
+    }
+    protocol::ReturnData answer(std::make_shared<protocol::DeviceNode>(node));
+    ASSERT_TRUE(emulator().setFault(fleet().id("edge"), kTopologyPath, EmulatorProcess::Fault::answer(answer.Serialize())));
+
+    CDeviceStatusWidget page(nullptr);
+    fleet().open(page, "edge");
+    showStatus(page);
+    const std::vector<Row> rows = rowsOf(portTable(page));
+    ASSERT_EQ(rows.size(), 4u);
+    // The key is the low byte of the port number: 257 and 1 come first, in either order,
+    // before 2 and 3.
+    const std::set<QString> firstTwo = {rows[0].name, rows[1].name};
+    EXPECT_EQ(firstTwo, (std::set<QString>{"port-1", "port-257"}));
+    EXPECT_EQ(rows[2].name, QString("port-2"));
+    EXPECT_EQ(rows[3].name, QString("port-3"));
+}
+
 TEST_F(DeviceStatusWidgetTest, FailedLookUpOfTheDeviceLeavesAnEmptyTable)
 {
     CDeviceStatusWidget page(nullptr);
@@ -885,6 +921,22 @@ TEST_F(DeviceStatusWidgetTest, AlarmPushWithoutPanelIsLost)
     showStatus(other);
     ASSERT_NE(panelOf(other), nullptr);
     EXPECT_EQ(velmora::PanelTestAccess::alarmPorts(*panelOf(other)), serviceAlarms(fleet().id("edge")));
+}
+
+TEST_F(DeviceStatusWidgetTest, AlarmPushBeforeTheFirstLoadOnAPortTheServerDoesNotListIsLost)
+{
+    const std::set<unsigned> server = serviceAlarms(fleet().id("edge"));
+    unsigned unlisted = 2;
+    while (server.count(unlisted))
+        ++unlisted;
+    CDeviceStatusWidget page(nullptr);
+    fleet().open(page, "edge");
+    page.setPortAlarmState(static_cast<int>(unlisted), true);
+    showStatus(page);
+    ASSERT_NE(panelOf(page), nullptr);
+    // Only what the server lists is marked: the early push is gone.
+    EXPECT_EQ(velmora::PanelTestAccess::alarmPorts(*panelOf(page)), server);
+    EXPECT_EQ(velmora::PanelTestAccess::alarmPorts(*panelOf(page)).count(unlisted), 0u);
 }
 
 // ---------------------------------------------------------------------------------------------

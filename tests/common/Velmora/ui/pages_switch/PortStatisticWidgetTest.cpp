@@ -7,6 +7,10 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "support/LogCapture.h"
+
 #include "PortStatisticModel.h"
 #include "PortStatisticWidget.h"
 #include "SpeedDataUintconvert.h"
@@ -364,6 +368,32 @@ TEST_F(PortStatisticWidgetTest, ChosenRateIsSharedWithPagesMadeLater)
     EXPECT_EQ(parts.combo->currentText(), QString("30s"));
     EXPECT_EQ(parts.timer->interval(), 30000);
     EXPECT_TRUE(parts.timer->isActive());
+}
+
+TEST_F(PortStatisticWidgetTest, ARateTheComboDoesNotOfferFallsBackToTheDefaultLoggedOnce)
+{
+    for (int rate : {15, 0, -10}) {
+        SCOPED_TRACE(rate);
+        velmora::test::LogCapture log;
+        CPortStatisticWidget::nRefreshRate = rate;
+        CPortStatisticWidget page(nullptr);
+        fleet().open(page, "edge");
+        const Parts parts = partsOf(page);
+        // Never an interval of 0, which would ask the device without pause.
+        EXPECT_EQ(parts.combo->currentText(), QString("10s"));
+        EXPECT_TRUE(parts.timer->isActive());
+        EXPECT_EQ(parts.timer->interval(), 10000);
+        EXPECT_EQ(CPortStatisticWidget::nRefreshRate, 10);
+        // The first refresh after a clear puts back the same interval.
+        parts.clear->click();
+        QMetaObject::invokeMethod(parts.timer, "timeout");
+        EXPECT_EQ(parts.timer->interval(), 10000);
+        const auto lines = log.lines("WARN");
+        const std::string expected = "Refresh rate " + std::to_string(rate) + " s is not offered; 10 s is used.";
+        EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
+                                [&](const velmora::test::LogLine& line) { return line.message == expected; }),
+                  1);
+    }
 }
 
 TEST_F(PortStatisticWidgetTest, HideStopsTheTimerAndShowStatusStartsIt)

@@ -2,7 +2,12 @@
 #include <QImage>
 #include <QPixmap>
 #include <QtMath>
+#include <QPainter>
+#include <cmath>
 #include <gtest/gtest.h>
+#include <limits>
+
+#include "support/LogCapture.h"
 
 #include "UsageRateChart.h"
 
@@ -42,6 +47,67 @@ TEST(UsageRateChart, ClampsToZeroAndHundred)
     chart.setUsageRate(250);
     EXPECT_EQ(chart.usageRate(), 100.0);
     EXPECT_EQ(chart.text(), QString("100.00%"));
+}
+
+TEST(UsageRateChart, NotANumberChangesNothingAndIsLoggedOnce)
+{
+    velmora::test::LogCapture log;
+    velmora::CUsageRateChart chart(nullptr);
+    chart.resize(100, 100);
+    chart.setUsageRate(42.5);
+    const QImage before = render(chart);
+    chart.setUsageRate(std::nan(""));
+    chart.setUsageRate(-std::nan(""));
+    EXPECT_EQ(chart.usageRate(), 42.5);
+    EXPECT_EQ(chart.text(), QString("42.50%"));
+    EXPECT_EQ(render(chart), before);
+    // Infinities are numbers: they clamp.
+    chart.setUsageRate(std::numeric_limits<double>::infinity());
+    EXPECT_EQ(chart.usageRate(), 100.0);
+    chart.setUsageRate(-std::numeric_limits<double>::infinity());
+    EXPECT_EQ(chart.usageRate(), 0.0);
+    const auto lines = log.lines("WARN");
+    ASSERT_EQ(lines.size(), 1u);
+    EXPECT_EQ(lines[0].message, "Usage rate is not a number; the chart keeps 42.500000.");
+}
+
+TEST(UsageRateChart, PaintedTextIsTheShortestFormOfTheRate)
+{
+    // The label keeps two decimals; the number painted in the ring is the shortest form with
+    // six significant digits.
+    struct Case {
+        double rate;
+        const char* label;
+        const char* painted;
+    };
+    for (const Case& c : {Case{12.5, "12.50%", "12.5%"}, Case{33.333333, "33.33%", "33.3333%"},
+                          Case{100, "100.00%", "100%"}, Case{0, "0.00%", "0%"}, Case{7.25, "7.25%", "7.25%"}}) {
+        velmora::CUsageRateChart chart(nullptr);
+        chart.resize(120, 120);
+        chart.setUsageRate(c.rate);
+        EXPECT_EQ(chart.text(), QString(c.label));
+        // What the ring shows: the text drawn in its centre, in the chart's pen colour.
+        QImage drawn = render(chart);
+        QImage expected(drawn.size(), QImage::Format_ARGB32);
+        expected.fill(Qt::transparent);
+        {
+            QPainter p(&expected);
+            p.setRenderHint(QPainter::Antialiasing, true);
+            p.setFont(chart.font());
+            p.setPen(QColor::fromRgba(0xFFE6E6E6));
+            p.drawText(QRect(0, 0, 120, 120), Qt::AlignHCenter | Qt::AlignVCenter, QString(c.painted));
+        }
+        // Every pixel of the expected text is painted in the chart too, and nothing of the
+        // label's longer form is.
+        int textPixels = 0;
+        for (int y = 0; y < 120; ++y)
+            for (int x = 0; x < 120; ++x)
+                if (qAlpha(expected.pixel(x, y)) == 255) {
+                    ++textPixels;
+                    EXPECT_EQ(drawn.pixel(x, y), expected.pixel(x, y)) << c.painted << " at " << x << "," << y;
+                }
+        EXPECT_GT(textPixels, 0) << c.painted;
+    }
 }
 
 TEST(UsageRateChart, LabelTextKeepsTwoDecimals)

@@ -213,6 +213,67 @@ TEST_F(ApDeviceStatusWidgetTest, RadioListsThatNoControllerReports)
     EXPECT_EQ(tabs->count(), 0);
 }
 
+namespace {
+
+// The controller's answer for one AP at `ip` with the radios given as JSON objects.
+std::string apListAnswer(const std::string& ip, const std::vector<std::string>& radios)
+{
+    std::string list;
+    for (const std::string& radio : radios)
+        list += (list.empty() ? "" : ",") + radio;
+    return R"({"ApInfoSearchResult": {"searchID": "S", "responseStatus": "OK", "numOfMatches": 1, "apList": [
+        {"deviceName": "hall", "model": "QA-210", "macAddress": "aa:bb:cc:00:00:01", "ipAddress": ")" +
+           ip + R"(", "serialNumber": "SN1", "softwareVersion": "V1.2", "state": "online", "runTime": 3600,
+         "cpuUsage": 12, "memoryUsage": 48, "rfList": [)" +
+           list + "]}]}}";
+}
+
+std::string radioJson(int band, int channel)
+{
+    return R"({"band": )" + std::to_string(band) + R"(, "transmitPower": 20, "channel": )" + std::to_string(channel) +
+           R"(, "channelInterference": 0, "onlineCount": 1, "sendUtilization": 3, "receiveUtilization": 2})";
+}
+
+} // namespace
+
+TEST_F(ApDeviceStatusWidgetTest, AnApAnswerWithAnEmptyRadioListEmptiesTheTabsAndShowsTheBars)
+{
+    const std::optional<Quillon::ApInfo> ap = firstAp(fleet().managedAps("ac-search"), 3);
+    ASSERT_TRUE(ap.has_value());
+    auto page = openPage("ac-search", ap->ipAddress);
+    showStatus(*page);
+    ASSERT_EQ(tabsOf(*page)->count(), 3);
+    ASSERT_TRUE(emulator().setFault(fleet().id("ac-search"), kApListPath,
+                                    velmora::test::EmulatorProcess::Fault::answer(apListAnswer(ap->ipAddress, {}))));
+    showStatus(*page);
+    EXPECT_EQ(tabsOf(*page)->count(), 0);
+    EXPECT_EQ(part<QProgressBar>(*page, "m_memoryProgressBar")->value(), 48);
+    EXPECT_EQ(part<QProgressBar>(*page, "m_cpuProgressBar")->value(), 12);
+    EXPECT_EQ(labelText(*page, "cpuPercentLabel"), "12%");
+    for (const char* name : kUsageWidgets)
+        EXPECT_FALSE(part<QWidget>(*page, name)->isHidden()) << name;
+}
+
+TEST_F(ApDeviceStatusWidgetTest, AFourRadioApTitlesBandOneAsATwoRadioApDoes)
+{
+    const std::optional<Quillon::ApInfo> ap = firstAp(fleet().managedAps("ac-search"), 2);
+    ASSERT_TRUE(ap.has_value());
+    auto page = openPage("ac-search", ap->ipAddress);
+    const std::string answer =
+        apListAnswer(ap->ipAddress, {radioJson(0, 6), radioJson(1, 36), radioJson(2, 149), radioJson(1, 44)});
+    ASSERT_TRUE(emulator().setFault(fleet().id("ac-search"), kApListPath,
+                                    velmora::test::EmulatorProcess::Fault::answer(answer)));
+    showStatus(*page);
+    // The test is for exactly three radios; with four, band 1 takes the two-radio title. Its
+    // two radios share one tab that shows the last and, added again, stands last.
+    TarvexGUIToolkit::CTabWidget* tabs = tabsOf(*page);
+    EXPECT_EQ(titles(tabs), (QStringList{"GHZFrequencyBandJxjGQbMf", "GHZFrequencyBandxmrbPirNUV",
+                                         "GHZFrequencyBandckTTmKJx"}));
+    ASSERT_EQ(tabs->count(), 3);
+    EXPECT_EQ(labelText(*tabs->widget(1), "m_pChannelLabel"), "149");
+    EXPECT_EQ(labelText(*tabs->widget(2), "m_pChannelLabel"), "44");
+}
+
 TEST_F(ApDeviceStatusWidgetTest, AnAddressWithoutRecordChangesNothing)
 {
     const std::vector<Quillon::ApInfo> aps = fleet().managedAps("ac-search");

@@ -3,6 +3,8 @@
 // running while the controller is slow; the link colour; the click on a device name,
 // through the sorting proxy; failures and the timer.
 #include <QElapsedTimer>
+#include <QThreadPool>
+#include <atomic>
 #include <QHeaderView>
 #include <QLabel>
 #include <QSignalSpy>
@@ -16,6 +18,7 @@
 #include "TarvexGUIToolkit/MutilColumnFilterProxyModel.h"
 #include "TarvexGUIToolkit/TableView.h"
 #include "WirelessPagesTestFleet.h"
+#include "support/LogCapture.h"
 
 using velmora::CApInfoListModel;
 using velmora::CApInfoListWidget;
@@ -91,6 +94,14 @@ void clickCell(QTableView* view, int row, int column)
     view->scrollTo(view->model()->index(row, column));
     const QRect rect = view->visualRect(view->model()->index(row, column));
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, rect.center());
+}
+
+// Lets the read that was just started reach the controller, which answers late.
+void letTheReadStart()
+{
+    QElapsedTimer clock;
+    clock.start();
+    waitUntil([&] { return clock.elapsed() >= 120; });
 }
 
 class ApInfoListWidgetTest : public WirelessPageTest {};
@@ -216,19 +227,60 @@ TEST_F(ApInfoListWidgetTest, TheReadLeavesTheEventLoopRunningWhileTheControllerI
     EXPECT_EQ(shownRows(page).size(), static_cast<int>(fleet().managedAps("ac-plain").size()));
 }
 
-TEST_F(ApInfoListWidgetTest, ReadsStartedWhileOneRunsQueueAndTheLastListWins)
+TEST_F(ApInfoListWidgetTest, RequestsDuringARunningReadAreServedByOneMoreRead)
 {
     CApInfoListWidget page(nullptr);
     fleet().open(page, "ac-plain");
     ASSERT_TRUE(emulator().setFault(fleet().id("ac-plain"), kApListPath, EmulatorProcess::Fault::delay(300)));
     QSignalSpy updates(&page, &CApInfoListWidget::signalUpdateData);
     showStatus(page);
+    letTheReadStart();
     ASSERT_TRUE(QMetaObject::invokeMethod(&page, "onRefreshPortStatisticData"));
     ASSERT_TRUE(QMetaObject::invokeMethod(&page, "onRefreshPortStatisticData"));
-    ASSERT_TRUE(waitUntil([&] { return updates.count() == 3; }));
+    // The two ticks came while the first read ran: one more read answers both.
+    ASSERT_TRUE(waitUntil([&] { return updates.count() == 2; }));
     ASSERT_TRUE(waitUntil([] { return QThreadPool::globalInstance()->activeThreadCount() == 0; }));
     QCoreApplication::processEvents();
+    EXPECT_EQ(updates.count(), 2);
     EXPECT_EQ(shownRows(page).size(), static_cast<int>(fleet().managedAps("ac-plain").size()));
+}
+
+TEST_F(ApInfoListWidgetTest, TheLastReadIsShownEvenWhenAnotherReadFollowsAtOnce)
+{
+    CApInfoListWidget page(nullptr);
+    fleet().open(page, "ac-plain");
+    const int total = static_cast<int>(fleet().managedAps("ac-plain").size());
+    // A controller slower than the ticks: a read is always running or asked for.
+    ASSERT_TRUE(emulator().setFault(fleet().id("ac-plain"), kApListPath, EmulatorProcess::Fault::delay(250)));
+    QSignalSpy updates(&page, &CApInfoListWidget::signalUpdateData);
+    int shown = 0;
+    QObject::connect(
+        &page, &CApInfoListWidget::signalUpdateData, &page,
+        [&] {
+            // Queued after the page's own slot: every hand-over has reached the table and label.
+            const int rows = shownRows(page).size();
+            if (rows > 0 && labelText(page, "label").section('/', 1) == QString::number(rows))
+                ++shown;
+        },
+        Qt::QueuedConnection);
+    showStatus(page);
+    QTimer ticker;
+    QObject::connect(&ticker, &QTimer::timeout, &page, [&] {
+        QMetaObject::invokeMethod(&page, "onRefreshPortStatisticData");
+    });
+    ticker.start(60);
+    // Reads follow one another while the ticks go on; each hand-over reaches the table.
+    const bool updatedWhileTicking = waitUntil([&] { return shown >= 3; }, 5000);
+    const int updatesWhileTicking = updates.count();
+    ticker.stop();
+    EXPECT_TRUE(updatedWhileTicking) << "the table stopped updating while reads followed one another";
+    EXPECT_EQ(shownRows(page).size(), total);
+    // No backlog: once the ticks stop, at most the one read asked for is still to come.
+    ASSERT_TRUE(waitUntil([] { return QThreadPool::globalInstance()->activeThreadCount() == 0; }, 3000));
+    QCoreApplication::processEvents();
+    EXPECT_LE(updates.count(), updatesWhileTicking + 1);
+    EXPECT_EQ(shown, updates.count());
+    EXPECT_EQ(labelText(page, "label").section('/', 1), QString::number(total));
 }
 
 TEST_F(ApInfoListWidgetTest, AFailedReadShowsAnEmptyTable)
@@ -332,10 +384,11 @@ TEST_F(ApInfoListWidgetTest, HidingStopsTheTimerAndShowingStartsIt)
     EXPECT_EQ(timer->interval(), 30000);
 }
 
-TEST_F(ApInfoListWidgetTest, DestroyingThePageWaitsForARunningRead)
+TEST_F(ApInfoListWidgetTest, DestroyingThePageWaitsOnlyForTheReadInFlight)
 {
     constexpr int kDelayMs = 500;
     QElapsedTimer sinceRead;
+    qint64 gone = 0;
     {
         CApInfoListWidget page(nullptr);
         fleet().open(page, "ac-plain");
@@ -343,10 +396,68 @@ TEST_F(ApInfoListWidgetTest, DestroyingThePageWaitsForARunningRead)
         sinceRead.start();
         showStatus(page);
         ASSERT_TRUE(waitUntil([] { return QThreadPool::globalInstance()->activeThreadCount() > 0; }, 2000));
+        letTheReadStart();
+        // Asked again while the first read runs: that one more read is never made.
+        ASSERT_TRUE(QMetaObject::invokeMethod(&page, "onRefreshPortStatisticData"));
     }
-    // The page went only once the delayed answer had come back: the read never outlives it.
-    // (The pool counts its thread as busy a moment longer than the read runs.)
-    EXPECT_GE(sinceRead.elapsed(), kDelayMs);
+    gone = sinceRead.elapsed();
+    // The page went once the delayed answer had come back, and not a second read later.
+    EXPECT_GE(gone, kDelayMs);
+    EXPECT_LT(gone, 2 * kDelayMs);
     EXPECT_TRUE(waitUntil([] { return QThreadPool::globalInstance()->activeThreadCount() == 0; }, 2000));
+    EXPECT_LT(sinceRead.elapsed(), 2 * kDelayMs);
     QCoreApplication::processEvents();
+}
+
+TEST_F(ApInfoListWidgetTest, AReadStillWaitingForAPoolThreadNeverRunsOnTheGuiThread)
+{
+    constexpr int kDelayMs = 400;
+    QThreadPool* pool = QThreadPool::globalInstance();
+    const int threads = pool->maxThreadCount();
+    // Every pool thread busy: the page's read waits in the queue.
+    std::atomic<bool> release{false};
+    pool->setMaxThreadCount(1);
+    pool->start([&] {
+        while (!release)
+            QThread::msleep(5);
+    });
+    QElapsedTimer clock;
+    {
+        CApInfoListWidget page(nullptr);
+        fleet().open(page, "ac-plain");
+        ASSERT_TRUE(emulator().setFault(fleet().id("ac-plain"), kApListPath, EmulatorProcess::Fault::delay(kDelayMs)));
+        QSignalSpy updates(&page, &CApInfoListWidget::signalUpdateData);
+        showStatus(page);
+        clock.start();
+    }
+    // The page went at once: its read was not taken out of the queue and run here.
+    EXPECT_LT(clock.elapsed(), kDelayMs / 2);
+    release = true;
+    // The read starts, finds the page gone and asks nothing.
+    EXPECT_TRUE(pool->waitForDone(5000));
+    EXPECT_LT(clock.elapsed(), kDelayMs);
+    pool->setMaxThreadCount(threads);
+    QCoreApplication::processEvents();
+}
+
+TEST_F(ApInfoListWidgetTest, APageWithoutADeviceNeitherReadsNorPolls)
+{
+    velmora::test::LogCapture log;
+    CApInfoListWidget page(nullptr);
+    QTimer* timer = timerOf(page);
+    QSignalSpy updates(&page, &CApInfoListWidget::signalUpdateData);
+    // The constructor started the timer: its first tick finds no device and stops it.
+    ASSERT_TRUE(QMetaObject::invokeMethod(&page, "onRefreshPortStatisticData"));
+    EXPECT_FALSE(timer->isActive());
+    showStatus(page);
+    EXPECT_FALSE(timer->isActive());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(updates.count(), 0);
+    EXPECT_EQ(QThreadPool::globalInstance()->activeThreadCount(), 0);
+    const auto lines = log.lines("ERROR");
+    EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
+                            [](const velmora::test::LogLine& line) {
+                                return line.message == "velmora::CApInfoListWidget has no device; nothing is loaded.";
+                            }),
+              1);
 }

@@ -246,6 +246,37 @@ TEST_F(WirelessStatusWidgetTest, RecordsNoEmulatedApReports)
     EXPECT_EQ(labelText(tab, "labelRfSwitch"), "ShutDown42HTMCDN");
 }
 
+TEST_F(WirelessStatusWidgetTest, AOneBandApKeepsBothBandTabs)
+{
+    CWirelessStatusWidget page(nullptr);
+    fleet().open(page, "ap-quiet");
+    auto* tabs = page.findChild<QTabWidget*>();
+    ASSERT_NE(tabs, nullptr);
+    const int count = tabs->count();
+    ASSERT_EQ(count, 2);
+    auto* tab5 = page.findChild<CWirelessStatusTab*>("tab5");
+    ASSERT_NE(tab5, nullptr);
+    const Labels formDefaults = labelsOf(*tab5);
+    // The AP reports a 2.4 GHz radio only.
+    ASSERT_TRUE(emulator().setFault(fleet().id("ap-quiet"), kRfPath,
+                                    velmora::test::EmulatorProcess::Fault::answer(
+                                        R"({"RfParaCfgList": {"rfList": [{"band": 0, "enabled": true,
+                                           "wirelessMode": "3", "transmitPower": 18, "channel": 11}]}})")));
+    showStatus(page);
+    EXPECT_EQ(tabs->count(), count);
+    EXPECT_NE(tabs->indexOf(tab5), -1);
+    EXPECT_NE(tabs->indexOf(page.findChild<CWirelessStatusTab*>("tab2_4")), -1);
+    const Labels shown24 = labelsOf(*page.findChild<CWirelessStatusTab*>("tab2_4"));
+    EXPECT_EQ(shown24.mode, "802.11b/g/n");
+    EXPECT_EQ(shown24.power, "18dBm");
+    // The 5 GHz tab stays with the labels of its form.
+    const Labels shown5 = labelsOf(*tab5);
+    EXPECT_EQ(shown5.rfSwitch, formDefaults.rfSwitch);
+    EXPECT_EQ(shown5.mode, formDefaults.mode);
+    EXPECT_EQ(shown5.channel, formDefaults.channel);
+    EXPECT_EQ(shown5.power, formDefaults.power);
+}
+
 TEST_F(WirelessStatusWidgetTest, AFailedReadLeavesBothTabs)
 {
     CWirelessStatusWidget page(nullptr);
