@@ -95,8 +95,12 @@ bool CNXRPCPassThroughComm::request(protocol::NxrpcPassThroughRspData& response,
 
     // A device that has just timed out or refused is not asked again until its hold is over.
     detail::CDeviceBreaker& breaker = detail::CDeviceBreaker::instance();
-    if (!breaker.admit(deviceGuid))
+    if (!breaker.admit(deviceGuid)) {
+        // As after a transport failure: nothing came.
+        answer.outBuffer.clear();
+        answer.statusBuffer.clear();
         return false;
+    }
 
     const TransportTimings timings = transportTimings();
     detail::HttpCall call;
