@@ -281,6 +281,14 @@ void EmulatorServer::handleDevice(const DevicePlan& d, const httplib::Request& r
     entry.method = req.method;
     entry.target = target;
     entry.body = req.body;
+    // Closes the connection without any answer; the request log shows status 0.
+    auto dropAnswer = [&] {
+        dropConnection(req, m_port);
+        res.status = 500;
+        entry.status = 0;
+        m_network.logRequest(d, entry);
+        statusLogged = 0;
+    };
 
     // A silent device took the connection and says nothing, not even the challenge. The
     // request is held until the fault is cleared (or its `ms` ran out, or the emulator
@@ -300,11 +308,7 @@ void EmulatorServer::handleDevice(const DevicePlan& d, const httplib::Request& r
             if (!m_faults.contains(silent.rule) || (silent.ms > 0 && std::chrono::steady_clock::now() >= until))
                 break;
         }
-        dropConnection(req, m_port);
-        res.status = 500;
-        entry.status = 0;
-        m_network.logRequest(d, entry);
-        statusLogged = 0;
+        dropAnswer();
         return;
     }
 
@@ -330,11 +334,7 @@ void EmulatorServer::handleDevice(const DevicePlan& d, const httplib::Request& r
     if (f.delayMs > 0)
         pause(f.delayMs);
     if (f.drop) {
-        dropConnection(req, m_port);
-        res.status = 500;
-        entry.status = 0;
-        m_network.logRequest(d, entry);
-        statusLogged = 0;
+        dropAnswer();
         return;
     }
     Answer a;
