@@ -178,6 +178,7 @@ bool EmulatorProcess::readRegistry()
         dev.hostName = o.value("hostName").toString().toStdString();
         dev.user = o.value("user").toString().toStdString();
         dev.password = o.value("password").toString().toStdString();
+        dev.port = o.value("port").toInt();
         dev.capabilitiesJson =
             QJsonDocument(o.value("capabilities").toObject()).toJson(QJsonDocument::Compact).toStdString();
         m_devices.push_back(dev);

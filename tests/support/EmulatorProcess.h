@@ -35,12 +35,14 @@ public:
         std::string user;
         std::string password;
         std::string capabilitiesJson; // the SwitchCapabilities object as JSON text
+        int port = 0;                 // the fleet's port, or the device's own (--own-port)
     };
 
     // A fault of one device and path; built by the named constructors.
     struct Fault {
-        std::string kind;       // "delay", "status", "drop", "truncate", "malformed", "moreForever", "failPage", "answer"
-        int delayMs = 0;        // "delay": added wait
+        std::string kind;       // "delay", "status", "drop", "truncate", "malformed", "moreForever", "failPage", "answer",
+                                // "silent", "refuse", "blackhole"
+        int delayMs = 0;        // "delay": added wait; "silent": how long each request is held (0: until cleared)
         int status = 0;         // "status", "failPage": HTTP status answered (failPage: 500 when 0)
         int page = 0;           // "failPage": the page of a walk that fails, from 1
         int count = 0;          // how many matching requests it hits; 0 = all of them
@@ -57,6 +59,12 @@ public:
         // The device answers `text` as it stands (values the fleet itself never sends).
         static Fault answer(const std::string& text, int code = 200) { Fault f; f.kind = "answer"; f.body = text; f.status = code; return f; }
         static Fault failPage(int pageNumber, int code = 500) { Fault f; f.kind = "failPage"; f.page = pageNumber; f.status = code; return f; }
+        // The device takes the connection and never answers, not even the challenge.
+        static Fault silent() { Fault f; f.kind = "silent"; return f; }
+        // The device's own port (emulator started with --own-port) refuses connections, or
+        // accepts none: its backlog is full and a connect never completes.
+        static Fault refuse() { Fault f; f.kind = "refuse"; return f; }
+        static Fault blackhole() { Fault f; f.kind = "blackhole"; return f; }
     };
 
     // One request as the emulator received it.

@@ -32,6 +32,8 @@ struct TestFleetOptions {
     // Opening a page also chooses the device's work state road, as the dialog does
     // before it shows a page that reads ports.
     bool initWorkStateOnOpen = false;
+    // More options of the emulator's command line (e.g. "--own-port", "<device name>").
+    std::vector<std::string> emulatorArgs = {};
 };
 
 class TestFleet {
@@ -50,7 +52,7 @@ public:
             return;
         }
         file.close();
-        m_emulator = std::make_unique<EmulatorProcess>(path.toStdString());
+        m_emulator = std::make_unique<EmulatorProcess>(path.toStdString(), 1, options.emulatorArgs);
     }
     virtual ~TestFleet() = default;
     TestFleet(const TestFleet&) = delete;

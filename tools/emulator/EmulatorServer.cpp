@@ -281,6 +281,36 @@ void EmulatorServer::handleDevice(const DevicePlan& d, const httplib::Request& r
     entry.method = req.method;
     entry.target = target;
     entry.body = req.body;
+    // Closes the connection without any answer; the request log shows status 0.
+    auto dropAnswer = [&] {
+        dropConnection(req, m_port);
+        res.status = 500;
+        entry.status = 0;
+        m_network.logRequest(d, entry);
+        statusLogged = 0;
+    };
+
+    // A silent device took the connection and says nothing, not even the challenge. The
+    // request is held until the fault is cleared (or its `ms` ran out, or the emulator
+    // stops); then the connection is closed without an answer.
+    const SilentHold silent = m_faults.silent(d.id, req.method, req.path, target);
+    if (silent.rule != 0) {
+        const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(silent.ms);
+        for (;;) {
+            {
+                std::unique_lock<std::mutex> lock(m_stopMutex);
+                if (m_stopping)
+                    break;
+                m_stopped.wait_for(lock, std::chrono::milliseconds(50));
+                if (m_stopping)
+                    break;
+            }
+            if (!m_faults.contains(silent.rule) || (silent.ms > 0 && std::chrono::steady_clock::now() >= until))
+                break;
+        }
+        dropAnswer();
+        return;
+    }
 
     if (d.auth != "none") {
         const std::string authorization = req.get_header_value("Authorization");
@@ -304,11 +334,7 @@ void EmulatorServer::handleDevice(const DevicePlan& d, const httplib::Request& r
     if (f.delayMs > 0)
         pause(f.delayMs);
     if (f.drop) {
-        dropConnection(req, m_port);
-        res.status = 500;
-        entry.status = 0;
-        m_network.logRequest(d, entry);
-        statusLogged = 0;
+        dropAnswer();
         return;
     }
     Answer a;

@@ -12,7 +12,8 @@ namespace emulator {
 
 const std::vector<std::string>& FaultTable::kinds()
 {
-    static const std::vector<std::string> k = {"delay", "status", "drop", "truncate", "malformed", "moreForever", "failPage", "answer"};
+    static const std::vector<std::string> k = {"delay",    "status", "drop",   "truncate", "malformed", "moreForever",
+                                               "failPage", "answer", "silent", "refuse",   "blackhole"};
     return k;
 }
 
@@ -20,7 +21,8 @@ static bool checkRule(FaultRule& rule, std::string& error)
 {
     const auto& k = FaultTable::kinds();
     if (std::find(k.begin(), k.end(), rule.kind) == k.end()) {
-        error = "unknown fault kind \"" + rule.kind + "\" (delay, status, drop, truncate, malformed, moreForever, failPage, answer)";
+        error = "unknown fault kind \"" + rule.kind + "\" (delay, status, drop, truncate, malformed, moreForever, failPage, answer, silent, refuse, "
+                "blackhole)";
         return false;
     }
     if (rule.device.empty())
@@ -147,27 +149,121 @@ bool FaultTable::addJson(const std::string& text, std::vector<long long>& ids, s
     cJSON_Delete(root);
     if (!ok)
         return false;
+    for (const FaultRule& rule : rules) {
+        if (!acceptable(rule, error))
+            return false;
+    }
     for (FaultRule& rule : rules)
         ids.push_back(add(rule));
     return true;
 }
 
-long long FaultTable::add(FaultRule rule)
+void FaultTable::setPortCheck(std::function<bool(const std::string& device)> hasOwnPort)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    rule.id = m_nextId++;
-    m_rules.push_back(rule);
+    m_hasOwnPort = std::move(hasOwnPort);
+}
+
+void FaultTable::setOnChange(std::function<void()> onChange)
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_onChange = std::move(onChange);
+}
+
+bool FaultTable::isPortKind(const std::string& kind)
+{
+    return kind == "refuse" || kind == "blackhole";
+}
+
+bool FaultTable::acceptable(const FaultRule& rule, std::string& error) const
+{
+    if (!isPortKind(rule.kind))
+        return true;
+    std::function<bool(const std::string&)> hasOwnPort;
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        hasOwnPort = m_hasOwnPort;
+    }
+    if (rule.device != "*" && (!hasOwnPort || !hasOwnPort(rule.device))) {
+        error = "a " + rule.kind + " fault needs a device with a port of its own (--own-port " + rule.device + ")";
+        return false;
+    }
+    return true;
+}
+
+void FaultTable::changed()
+{
+    std::function<void()> onChange;
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        onChange = m_onChange;
+    }
+    if (onChange)
+        onChange();
+}
+
+long long FaultTable::add(FaultRule rule)
+{
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        rule.id = m_nextId++;
+        m_rules.push_back(rule);
+    }
+    changed();
     return rule.id;
 }
 
 void FaultTable::clear(const std::string& device)
 {
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        if (device.empty())
+            m_rules.clear();
+        else
+            m_rules.erase(std::remove_if(m_rules.begin(), m_rules.end(), [&](const FaultRule& r) { return r.device == device; }),
+                          m_rules.end());
+    }
+    changed();
+}
+
+bool FaultTable::contains(long long id) const
+{
     std::lock_guard<std::mutex> lock(m_mutex);
-    if (device.empty())
-        m_rules.clear();
-    else
-        m_rules.erase(std::remove_if(m_rules.begin(), m_rules.end(), [&](const FaultRule& r) { return r.device == device; }),
-                      m_rules.end());
+    return std::any_of(m_rules.begin(), m_rules.end(), [id](const FaultRule& r) { return r.id == id; });
+}
+
+const FaultRule* FaultTable::findSilent(const std::string& device, const std::string& method, const std::string& path,
+                                        const std::string& target) const
+{
+    for (const FaultRule& r : m_rules) {
+        if (r.kind == "silent" && (r.device == "*" || r.device == device) && (r.method.empty() || r.method == method) &&
+            pathMatches(r.path, path, target))
+            return &r;
+    }
+    return nullptr;
+}
+
+SilentHold FaultTable::silent(const std::string& device, const std::string& method, const std::string& path,
+                              const std::string& target) const
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    SilentHold hold;
+    if (const FaultRule* r = findSilent(device, method, path, target)) {
+        hold.rule = r->id;
+        hold.ms = r->delayMs;
+    }
+    return hold;
+}
+
+std::string FaultTable::portMode(const std::string& device) const
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    std::string mode;
+    for (const FaultRule& r : m_rules) {
+        if (isPortKind(r.kind) && (r.device == "*" || r.device == device))
+            mode = r.kind; // the latest rule wins
+    }
+    return mode;
 }
 
 bool FaultTable::empty() const
@@ -214,7 +310,8 @@ FaultEffect FaultTable::match(const std::string& device, const std::string& meth
         FaultRule& r = *it;
         const bool hit = (r.device == "*" || r.device == device) && (r.method.empty() || r.method == method) &&
                          pathMatches(r.path, path, target);
-        if (!hit) {
+        // Silent devices and closed ports act before a request is read or instead of it.
+        if (!hit || r.kind == "silent" || isPortKind(r.kind)) {
             ++it;
             continue;
         }

@@ -851,7 +851,8 @@ bool buildFleet(const std::string& nameOrFile, Fleet& fleet, std::string& error)
     return true;
 }
 
-std::string registryJson(const Fleet& fleet, const std::string& baseUrl, int port)
+std::string registryJson(const Fleet& fleet, const std::string& baseUrl, int port,
+                         const std::map<std::string, int>& ownPorts)
 {
     std::string out = "{\n  \"services\": {\"topology\": \"" + baseUrl + "\", \"alarm\": \"" + baseUrl + "\"},\n";
     out += "  \"devices\": [";
@@ -864,7 +865,8 @@ std::string registryJson(const Fleet& fleet, const std::string& baseUrl, int por
         out += "\"category\": " + std::to_string(d.category) + ", ";
         appendText(out, "model", d.model);
         appendText(out, "address", "127.0.0.1");
-        out += "\"port\": " + std::to_string(port) + ", ";
+        const auto own = ownPorts.find(d.id);
+        out += "\"port\": " + std::to_string(own == ownPorts.end() ? port : own->second) + ", ";
         appendText(out, "scheme", "http");
         appendText(out, "hostName", d.hostName);
         appendText(out, "user", d.user);

@@ -4,6 +4,7 @@
 // fleet ("demo", "large") or from a JSON fleet file, and written out as the client's
 // device registry.
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -158,7 +159,9 @@ bool buildFleet(const std::string& nameOrFile, Fleet& fleet, std::string& error)
 
 // The registry file of ostrand: every device with credentials and capabilities, and the
 // services at `baseUrl`.
-std::string registryJson(const Fleet& fleet, const std::string& baseUrl, int port);
+// `ownPorts`: devices that listen on a port of their own (--own-port) instead of `port`.
+std::string registryJson(const Fleet& fleet, const std::string& baseUrl, int port,
+                         const std::map<std::string, int>& ownPorts = {});
 
 // Names of the built-in fleets, for --help.
 std::vector<std::string> builtinFleetNames();

@@ -2,6 +2,7 @@
 // the integration tests and the benchmarks. See docs/emulator.md.
 #include "EmulatorServer.h"
 #include "Faults.h"
+#include "DevicePorts.h"
 #include "Fleet.h"
 #include "Hash.h"
 #include "Network.h"
@@ -41,7 +42,10 @@ const char* const kUsage =
     "                         device=<id|*>,path=<path|prefix*|*>,kind=<kind>[,ms=N]\n"
     "                         [,status=N][,page=N][,count=N][,method=VERB]\n"
     "                         kinds: delay status drop truncate malformed moreForever failPage answer\n"
+    "                         silent refuse blackhole (the last two on --own-port devices)\n"
     "  --faults FILE          faults from a JSON file (an array of fault objects)\n"
+    "  --own-port ID|NAME     the device listens on a port of its own (repeatable), which\n"
+    "                         the faults refuse and blackhole close or leave unanswered\n"
     "  --tick-ms N            wall milliseconds per second of device time (default 1000)\n"
     "  --freeze-tick N        start with the device clock stopped at tick N\n"
     "  --threads N            worker threads at start, more when all are busy (default 32)\n"
@@ -104,6 +108,7 @@ int main(int argc, char** argv)
     bool list = false;
     std::vector<std::string> faultRules;
     std::vector<std::string> faultFiles;
+    std::vector<std::string> ownPortDevices;
 
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i];
@@ -117,7 +122,7 @@ int main(int argc, char** argv)
             list = true;
         } else if (arg == "--fleet" || arg == "--seed" || arg == "--port" || arg == "--registry" || arg == "--fault" ||
                    arg == "--faults" || arg == "--tick-ms" || arg == "--freeze-tick" || arg == "--threads" ||
-                   arg == "--log-file") {
+                   arg == "--log-file" || arg == "--own-port") {
             if (!needValue(argc, argv, i, value))
                 return 2;
             if (arg == "--fleet")
@@ -132,6 +137,8 @@ int main(int argc, char** argv)
                 faultRules.push_back(value);
             else if (arg == "--faults")
                 faultFiles.push_back(value);
+            else if (arg == "--own-port")
+                ownPortDevices.push_back(value);
             else if (arg == "--tick-ms")
                 tickMs = std::atoi(value.c_str());
             else if (arg == "--freeze-tick")
@@ -162,22 +169,28 @@ int main(int argc, char** argv)
         return 0;
     }
 
-    FaultTable faults;
+    // Faults are read now and put in force once the devices' own ports are open.
+    std::vector<FaultRule> startRules;
     for (const std::string& text : faultRules) {
         FaultRule rule;
         if (!FaultTable::parseRule(text, rule, error)) {
             std::fprintf(stderr, "velmora-emulator: --fault %s: %s\n", text.c_str(), error.c_str());
             return 2;
         }
-        faults.add(rule);
+        startRules.push_back(rule);
     }
-    for (const std::string& file : faultFiles) {
-        std::string text;
-        std::vector<long long> ids;
-        if (!readFile(file, text) || !faults.addJson(text, ids, error)) {
-            std::fprintf(stderr, "velmora-emulator: --faults %s: %s\n", file.c_str(), text.empty() ? "cannot read" : error.c_str());
+    std::vector<std::string> ownPortIds;
+    for (const std::string& wanted : ownPortDevices) {
+        const DevicePlan* device = fleet.find(wanted);
+        for (const DevicePlan& d : fleet.devices) {
+            if (!device && d.name == wanted)
+                device = &d;
+        }
+        if (!device) {
+            std::fprintf(stderr, "velmora-emulator: --own-port %s: no such device\n", wanted.c_str());
             return 2;
         }
+        ownPortIds.push_back(device->id);
     }
 
     FILE* log = quiet ? nullptr : stderr;
@@ -202,14 +215,45 @@ int main(int argc, char** argv)
     options.port = port;
     options.threads = threads;
     options.log = log;
+    FaultTable faults;
     EmulatorServer server(network, faults, options);
     const int bound = server.start(error);
     if (bound <= 0) {
         std::fprintf(stderr, "velmora-emulator: %s\n", error.c_str());
         return 1;
     }
+    DevicePorts ownPorts(bound);
+    for (const std::string& id : ownPortIds) {
+        if (ownPorts.open(id, error) <= 0) {
+            std::fprintf(stderr, "velmora-emulator: %s\n", error.c_str());
+            server.stop();
+            return 1;
+        }
+    }
+    faults.setPortCheck([&ownPorts](const std::string& device) { return ownPorts.has(device); });
+    faults.setOnChange([&ownPorts, &faults] {
+        ownPorts.apply([&faults](const std::string& device) { return faults.portMode(device); });
+    });
+    for (const FaultRule& rule : startRules) {
+        if (!faults.acceptable(rule, error)) {
+            std::fprintf(stderr, "velmora-emulator: --fault: %s\n", error.c_str());
+            server.stop();
+            return 2;
+        }
+        faults.add(rule);
+    }
+    for (const std::string& file : faultFiles) {
+        std::string text;
+        std::vector<long long> ids;
+        if (!readFile(file, text) || !faults.addJson(text, ids, error)) {
+            std::fprintf(stderr, "velmora-emulator: --faults %s: %s\n", file.c_str(), text.empty() ? "cannot read" : error.c_str());
+            server.stop();
+            return 2;
+        }
+    }
+
     const std::string baseUrl = "http://127.0.0.1:" + std::to_string(bound);
-    if (!writeFileAtomically(registryPath, registryJson(network.fleet(), baseUrl, bound))) {
+    if (!writeFileAtomically(registryPath, registryJson(network.fleet(), baseUrl, bound, ownPorts.ports()))) {
         std::fprintf(stderr, "velmora-emulator: cannot write the registry %s\n", registryPath.c_str());
         server.stop();
         return 1;
@@ -223,6 +267,8 @@ int main(int argc, char** argv)
 
     int received = 0;
     sigwait(&signals, &received);
+    faults.setOnChange(nullptr);
+    ownPorts.stop();
     server.stop();
     if (log && log != stderr)
         std::fclose(log);

@@ -1,6 +1,7 @@
 #include "senvia/HttpClient.h"
 
 #include "HttpTransport.h"
+#include "senvia/TransportTimings.h"
 
 namespace senvia {
 
@@ -10,6 +11,7 @@ bool httpGet(const std::string& url, long timeoutMs, HttpResult& result)
     call.method = "GET";
     call.url = url;
     call.timeoutMs = timeoutMs;
+    call.connectTimeoutMs = transportTimings().connectTimeOutMs;
 
     detail::HttpAnswer answer;
     // One handle per thread for all service calls; libcurl keeps a connection per host.

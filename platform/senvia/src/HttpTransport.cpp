@@ -88,13 +88,15 @@ bool perform(CURL* handle, const HttpCall& call, HttpAnswer& answer)
     // here on every call instead.
     char errorText[CURL_ERROR_SIZE] = {0};
     const long timeoutMs = call.timeoutMs > 0 ? call.timeoutMs : kDefaultTimeoutMs;
+    const long connectTimeoutMs =
+        call.connectTimeoutMs > 0 && call.connectTimeoutMs < timeoutMs ? call.connectTimeoutMs : timeoutMs;
 
     curl_easy_setopt(handle, CURLOPT_URL, call.url.c_str());
     curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, "http,https");
     curl_easy_setopt(handle, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
     curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, timeoutMs);
-    curl_easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, timeoutMs);
+    curl_easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, connectTimeoutMs);
     curl_easy_setopt(handle, CURLOPT_FOLLOWLOCATION, 0L);
     curl_easy_setopt(handle, CURLOPT_ERRORBUFFER, errorText);
     curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &onBody);

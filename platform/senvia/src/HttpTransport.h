@@ -25,7 +25,8 @@ struct HttpCall {
     std::string body;
     std::string contentType;    // sent when the request has a body or is not a GET
     std::string hostHeader;     // replaces the Host header when not empty
-    long timeoutMs = kDefaultTimeoutMs;
+    long timeoutMs = kDefaultTimeoutMs;       // the whole exchange
+    long connectTimeoutMs = 0;                // the TCP connection alone, within timeoutMs; <= 0: timeoutMs
     std::string auth = "none";  // "digest", "basic" or "none"
     std::string user;
     std::string password;

@@ -2,11 +2,13 @@
 // address, scheme and credentials; libcurl carries the exchange.
 #include "senvia/NXRPCPassThroughComm.h"
 
+#include "DeviceBreaker.h"
 #include "HttpTransport.h"
 #include "Plinth/Error.h"
 #include "Plinth/Log.h"
 #include "Plinth/StringUtil.h"
 #include "ostrand/DeviceRegistry.h"
+#include "senvia/TransportTimings.h"
 
 namespace senvia {
 
@@ -91,13 +93,26 @@ bool CNXRPCPassThroughComm::request(protocol::NxrpcPassThroughRspData& response,
         return false;
     }
 
+    // A device that has just timed out or refused is not asked again until its hold is over.
+    detail::CDeviceBreaker& breaker = detail::CDeviceBreaker::instance();
+    if (!breaker.admit(deviceGuid)) {
+        // As after a transport failure: nothing came.
+        answer.outBuffer.clear();
+        answer.statusBuffer.clear();
+        return false;
+    }
+
+    const TransportTimings timings = transportTimings();
     detail::HttpCall call;
     call.method = verb;
     call.url = deviceUrl(*device, target);
     call.body = request.inBuffer;
     call.contentType = hasJsonFormat(target) ? "application/json" : "application/xml";
     call.hostHeader = device->hostName;
-    call.timeoutMs = request.recvTimeOut;
+    call.timeoutMs = request.recvTimeOut > 0 ? request.recvTimeOut : detail::kDefaultTimeoutMs;
+    if (timings.answerTimeOutCapMs > 0 && call.timeoutMs > timings.answerTimeOutCapMs)
+        call.timeoutMs = timings.answerTimeOutCapMs;
+    call.connectTimeoutMs = timings.connectTimeOutMs;
     call.auth = device->auth;
     call.user = device->user;
     call.password = device->password;
@@ -106,6 +121,8 @@ bool CNXRPCPassThroughComm::request(protocol::NxrpcPassThroughRspData& response,
     detail::HttpAnswer result;
     // One handle per device and thread: the device's connection stays open between queries.
     const bool ok = detail::perform(detail::threadHandle("device:" + deviceGuid), call, result);
+    breaker.settle(deviceGuid, device->address + ":" + std::to_string(device->port), ok,
+                   ok ? Plinth::Error::ErrorCode() : Plinth::Error::GetLastError());
     answer.outBuffer = std::move(result.body);
     answer.statusBuffer = std::move(result.statusLine);
     return ok;

@@ -85,7 +85,9 @@ HttpResult deviceRequest(const EmulatorProcess& emulator, const EmulatorProcess:
                          const std::string& target, const std::string& body, const RequestOptions& options)
 {
     const long auth = !options.digest ? CURLAUTH_NONE : (options.basic ? CURLAUTH_BASIC : CURLAUTH_DIGEST);
-    return perform(emulator.baseUrl() + target, method, body, device.hostName, device.user,
+    // A device with a port of its own (--own-port) is reached there; the others on the fleet's.
+    const std::string base = "http://127.0.0.1:" + std::to_string(device.port > 0 ? device.port : emulator.port());
+    return perform(base + target, method, body, device.hostName, device.user,
                    options.password.empty() ? device.password : options.password, auth, options.timeoutMs);
 }
 
