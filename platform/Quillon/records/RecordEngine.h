@@ -59,13 +59,7 @@ struct IsArray : std::false_type {};
 template <typename T, std::size_t N>
 struct IsArray<std::array<T, N>> : std::true_type {};
 
-// An unsigned member that devices may also send as a negative number: read as a signed
-// 32-bit value and kept as the same 32 bits, so that code classifying it sees the negative
-// value's unsigned form rather than the member's default (QUILLON_SIGNED_ON_WIRE).
-struct SignedOnWire {
-    uint32_t* value;
-};
-
+// Members that are signed on the wire (QUILLON_SIGNED_ON_WIRE); see SignedOnWire.
 template <typename R>
 struct SignedMembers {
     static bool has(const char*) { return false; }

@@ -27,13 +27,75 @@ template <typename R>
 struct Presence;
 template <typename R>
 struct SignedMembers;
-struct SignedOnWire;
+
+// An unsigned member that devices may also send as a negative number: read as a signed
+// 32-bit value and kept as the same 32 bits, so that code classifying it sees the negative
+// value's unsigned form rather than the member's default (QUILLON_SIGNED_ON_WIRE).
+struct SignedOnWire {
+    uint32_t* value;
+};
 template <typename T>
 bool scalarFromText(std::string_view raw, T& out);
 
 // What reading one element came to: the text left the plain form (the tree reader takes
 // over), or the element was read, with or without a value for its member.
 enum class XmlStep { GiveUp, NotRead, Read };
+
+// Byte equality of two short texts of `size` bytes, without a library call for the names of
+// an answer (mostly 6 to 20 bytes).
+inline bool sameBytes(const char* a, const char* b, std::size_t size)
+{
+    if (size >= 8 && size <= 16) {
+        uint64_t x0, y0, x1, y1;
+        std::memcpy(&x0, a, 8);
+        std::memcpy(&y0, b, 8);
+        std::memcpy(&x1, a + size - 8, 8);
+        std::memcpy(&y1, b + size - 8, 8);
+        return ((x0 ^ y0) | (x1 ^ y1)) == 0;
+    }
+    if (size < 8) {
+        for (std::size_t i = 0; i < size; ++i) {
+            if (a[i] != b[i]) {
+                return false;
+            }
+        }
+        return true;
+    }
+    return std::memcmp(a, b, size) == 0;
+}
+
+inline bool sameText(std::string_view a, std::string_view b)
+{
+    return a.size() == b.size() && sameBytes(a.data(), b.data(), a.size());
+}
+
+// The kind of a byte in character data.
+enum XmlKind : uint8_t { Plain, Open, Amp, Bracket, High, Bad };
+
+// Per byte: its kind (low bits) and whether it may start or continue a name of the plain form.
+constexpr uint8_t kXmlNameStart = 0x10;
+constexpr uint8_t kXmlNameChar = 0x20;
+struct XmlClasses {
+    uint8_t k[256];
+    constexpr XmlClasses() : k()
+    {
+        for (int i = 0; i < 256; ++i) {
+            k[i] = i < 0x20 ? Bad : (i >= 0x80 ? High : Plain);
+            if ((i >= 'A' && i <= 'Z') || (i >= 'a' && i <= 'z') || i == '_') {
+                k[i] |= kXmlNameStart | kXmlNameChar;
+            }
+            if ((i >= '0' && i <= '9') || i == '-' || i == '.') {
+                k[i] |= kXmlNameChar;
+            }
+        }
+        k[static_cast<unsigned char>('\t')] = Plain;
+        k[static_cast<unsigned char>('\n')] = Plain;
+        k[static_cast<unsigned char>('<')] = Open;
+        k[static_cast<unsigned char>('&')] = Amp;
+        k[static_cast<unsigned char>(']')] = Bracket;
+    }
+};
+inline constexpr XmlClasses kXmlClasses{};
 
 class XmlScanner {
 public:
@@ -79,6 +141,15 @@ public:
     {
         for (;;) {
             const char* start = m_p;
+            // Indentation eight blanks at a time, then byte by byte.
+            while (m_end - m_p >= 8) {
+                uint64_t eight;
+                std::memcpy(&eight, m_p, 8);
+                if (eight != 0x2020202020202020ull) {
+                    break;
+                }
+                m_p += 8;
+            }
             while (m_p < m_end && kind(*m_p) == Plain) {
                 ++m_p;
             }
@@ -150,34 +221,13 @@ public:
     std::string& scratch() { return m_scratch; }
 
 private:
-    enum Kind : uint8_t { Plain, Open, Amp, Bracket, High, Bad };
 
-    static Kind kind(char c)
-    {
-        static const struct Table {
-            Kind k[256];
-            Table()
-            {
-                for (int i = 0; i < 256; ++i) {
-                    k[i] = i < 0x20 ? Bad : (i >= 0x80 ? High : Plain);
-                }
-                k[static_cast<unsigned char>('\t')] = Plain;
-                k[static_cast<unsigned char>('\n')] = Plain;
-                k[static_cast<unsigned char>('<')] = Open;
-                k[static_cast<unsigned char>('&')] = Amp;
-                k[static_cast<unsigned char>(']')] = Bracket;
-                k[0x7F] = Plain;
-            }
-        } table;
-        return table.k[static_cast<unsigned char>(c)];
-    }
+    static XmlKind kind(char c) { return static_cast<XmlKind>(kXmlClasses.k[static_cast<unsigned char>(c)] & 0x0F); }
+
 
     static bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
-    static bool isNameStart(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_'; }
-    static bool isNameChar(char c)
-    {
-        return isNameStart(c) || (c >= '0' && c <= '9') || c == '-' || c == '.';
-    }
+    static bool isNameStart(char c) { return (kXmlClasses.k[static_cast<unsigned char>(c)] & kXmlNameStart) != 0; }
+    static bool isNameChar(char c) { return (kXmlClasses.k[static_cast<unsigned char>(c)] & kXmlNameChar) != 0; }
 
     void skipBlanks()
     {
@@ -416,7 +466,13 @@ private:
         if (!name(tag)) {
             return false;
         }
-        std::string_view attributes[kMaxAttributes];
+        if (m_p < m_end && *m_p == '>') { // the usual tag, without attributes
+            ++m_p;
+            empty = false;
+            return true;
+        }
+        const char* attributes[kMaxAttributes]; // names, for the check against repeats
+        std::size_t lengths[kMaxAttributes];
         int count = 0;
         for (;;) {
             const char* before = m_p;
@@ -442,11 +498,12 @@ private:
                 return false;
             }
             for (int i = 0; i < count; ++i) {
-                if (attributes[i] == attribute) {
+                if (std::string_view(attributes[i], lengths[i]) == attribute) {
                     return false;
                 }
             }
-            attributes[count++] = attribute;
+            attributes[count] = attribute.data();
+            lengths[count++] = attribute.size();
         }
     }
 
@@ -454,7 +511,7 @@ private:
     bool endTag(std::string_view open)
     {
         m_p += 2;
-        if (static_cast<std::size_t>(m_end - m_p) < open.size() || std::memcmp(m_p, open.data(), open.size()) != 0) {
+        if (static_cast<std::size_t>(m_end - m_p) < open.size() || !sameBytes(m_p, open.data(), open.size())) {
             return false;
         }
         m_p += open.size();
@@ -527,12 +584,17 @@ public:
         return table;
     }
 
-    // The index of the member named `name`, or -1.
-    int find(std::string_view name) const
+    // The index of the member named `name`, or -1. `expected` is tried first: devices write
+    // the members in order, so it is usually the one after the last member read.
+    int find(std::string_view name, int expected) const
     {
+        if (expected >= 0 && static_cast<std::size_t>(expected) < m_members.size() &&
+            sameText(m_members[static_cast<std::size_t>(expected)].key, name)) {
+            return expected;
+        }
         for (std::size_t slot = hash(name) & kMask;; slot = (slot + 1) & kMask) {
             const int index = m_slots[slot];
-            if (index < 0 || m_members[static_cast<std::size_t>(index)].key == name) {
+            if (index < 0 || sameText(m_members[static_cast<std::size_t>(index)].key, name)) {
                 return index;
             }
         }
@@ -544,13 +606,14 @@ private:
     static constexpr std::size_t kSlots = 64; // a power of two, above twice the largest record
     static constexpr std::size_t kMask = kSlots - 1;
 
+    // Length and three letters: enough to tell the members of one record apart, mostly.
     static std::size_t hash(std::string_view name)
     {
-        std::size_t h = name.size();
-        for (char c : name) {
-            h = h * 31 + static_cast<unsigned char>(c);
+        if (name.empty()) {
+            return 0;
         }
-        return h;
+        const auto at = [&](std::size_t i) { return static_cast<std::size_t>(static_cast<unsigned char>(name[i])); };
+        return name.size() * 7 + at(0) * 3 + at(name.size() / 2) * 5 + at(name.size() - 1);
     }
 
     XmlMemberTable()
@@ -598,10 +661,11 @@ XmlStep streamRecordXml(R& record, XmlScanner& scanner, std::string_view name, b
     if (!empty) {
         const XmlMemberTable<R>& table = XmlMemberTable<R>::instance();
         uint64_t seen = 0;
+        int expected = 0;
         const bool plain = scanner.content(
             name, [](const char*, const char*) {},
             [&](std::string_view child, bool childEmpty) {
-                const int index = table.find(child);
+                const int index = table.find(child, expected);
                 if (index < 0) {
                     return scanner.skip(child, childEmpty);
                 }
@@ -610,6 +674,7 @@ XmlStep streamRecordXml(R& record, XmlScanner& scanner, std::string_view name, b
                     return false; // a member given twice: the tree reader's order decides
                 }
                 seen |= bit;
+                expected = index + 1;
                 const auto& member = table.member(index);
                 const XmlStep step =
                     member.read(reinterpret_cast<char*>(&record) + member.offset, scanner, child, childEmpty);
@@ -650,12 +715,23 @@ XmlStep streamXml(T& out, XmlScanner& scanner, std::string_view name, bool empty
         if (!empty) {
             const bool plain = scanner.content(name, [](const char*, const char*) {},
                                                [&](std::string_view child, bool childEmpty) {
-                                                   Item item{};
-                                                   const XmlStep step = streamXml(item, scanner, child, childEmpty);
-                                                   if (step == XmlStep::Read) {
-                                                       items.push_back(std::move(item));
+                                                   if constexpr (std::is_same_v<Item, bool>) {
+                                                       bool item = false;
+                                                       const XmlStep step = streamXml(item, scanner, child, childEmpty);
+                                                       if (step == XmlStep::Read) {
+                                                           items.push_back(item);
+                                                       }
+                                                       return step != XmlStep::GiveUp;
+                                                   } else {
+                                                       // Read in place; an item without a value is taken back.
+                                                       items.emplace_back();
+                                                       const XmlStep step =
+                                                           streamXml(items.back(), scanner, child, childEmpty);
+                                                       if (step != XmlStep::Read) {
+                                                           items.pop_back();
+                                                       }
+                                                       return step != XmlStep::GiveUp;
                                                    }
-                                                   return step != XmlStep::GiveUp;
                                                });
             if (!plain) {
                 return XmlStep::GiveUp;
