@@ -20,7 +20,7 @@ struct rfInfo {
     int32_t band = 0;                 // band index
     int32_t transmitPower = 0;        // dBm
     int32_t channel = 0;
-    uint32_t channelInterference = 0; // a negative level on the wire is kept as its unsigned form
+    uint32_t channelInterference = 0;
     int32_t onlineCount = 0;          // clients on this radio
     int32_t sendUtilization = 0;      // percent
     int32_t receiveUtilization = 0;   // percent
@@ -248,7 +248,7 @@ struct Wireless {
     std::string channel;          // channel or frequency
     int32_t transmitPower = -1;   // dBm; -1 when absent
     int32_t noise = -1;           // dBm; -1 when absent
-    bool antennaGainPresent = false; // antennaGain below is valid (an answer without it: set by a gain)
+    bool antennaGainPresent = false; // antennaGain below is valid (also set when the answer carries it)
     int32_t antennaGain = -1;     // dBi; -1 when absent
 };
 
