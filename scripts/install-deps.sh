@@ -3,12 +3,13 @@
 # Safe to run again: it asks apt only for what dpkg does not already have.
 set -euo pipefail
 # fonts-wqy-microhei: device and sender names in Chinese (the emulated fleet has some).
+# libexpat1-dev, libpugixml-dev: only the answer reading benchmark, as bare parsers to compare with.
 packages=(
   build-essential cmake ninja-build pkg-config ccache clang libclang-rt-14-dev
   qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools
   libboost-thread-dev libboost-system-dev libcjson-dev rapidjson-dev liblog4cxx-dev
   libxml2-dev libcurl4-openssl-dev libcpp-httplib-dev libgtest-dev libgmock-dev
-  libbenchmark-dev valgrind xvfb xauth fonts-dejavu-core fonts-wqy-microhei ieee-data
+  libbenchmark-dev libexpat1-dev libpugixml-dev valgrind xvfb xauth fonts-dejavu-core fonts-wqy-microhei ieee-data
 )
 missing=()
 for p in "${packages[@]}"; do

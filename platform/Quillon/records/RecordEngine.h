@@ -24,6 +24,7 @@
 #include <libxml/tree.h>
 
 #include "RecordMacros.h"
+#include "XmlStream.h"
 
 namespace Quillon {
 namespace detail {
@@ -32,10 +33,15 @@ namespace detail {
 template <typename R>
 struct Fields;
 
-// A member flag set whenever another member was read from an answer (QUILLON_PRESENCE).
+// A member flag that follows whether another member was read from an answer
+// (QUILLON_PRESENCE). The readers note each member read into a State and settle it once
+// the record is read.
 template <typename R>
 struct Presence {
-    static void mark(R&, const char*) {}
+    struct State {
+        void note(const char*) {}
+        void settle(R&) {}
+    };
 };
 
 template <typename T, typename = void>
@@ -52,6 +58,25 @@ template <typename T>
 struct IsArray : std::false_type {};
 template <typename T, std::size_t N>
 struct IsArray<std::array<T, N>> : std::true_type {};
+
+// Members that are signed on the wire (QUILLON_SIGNED_ON_WIRE); see SignedOnWire.
+template <typename R>
+struct SignedMembers {
+    static bool has(const char*) { return false; }
+};
+
+// Calls read(member), or read(SignedOnWire) for a member that is signed on the wire.
+template <typename R, typename M, typename F>
+bool readAsDeclared(const char* key, M& member, F&& read)
+{
+    if constexpr (std::is_same_v<M, uint32_t>) {
+        if (SignedMembers<R>::has(key)) {
+            SignedOnWire wide{&member};
+            return read(wide);
+        }
+    }
+    return read(member);
+}
 
 // The wire name of a record: its library name, a leading C dropped before a capital.
 inline const char* wireName(const char* typeName)
@@ -85,6 +110,14 @@ bool scalarFromText(std::string_view raw, T& out)
 {
     if constexpr (std::is_same_v<T, std::string>) {
         out.assign(raw.data(), raw.size());
+        return true;
+    } else if constexpr (std::is_same_v<T, SignedOnWire>) {
+        int64_t value = 0;
+        if (!scalarFromText(raw, value) || value < std::numeric_limits<int32_t>::min() ||
+            value > std::numeric_limits<uint32_t>::max()) {
+            return false;
+        }
+        *out.value = static_cast<uint32_t>(value);
         return true;
     } else if constexpr (std::is_same_v<T, bool>) {
         const std::string_view text = trimmed(raw);
@@ -127,6 +160,14 @@ bool scalarFromJson(const cJSON* item, T& out)
             return false;
         }
         out = item->valuestring;
+        return true;
+    } else if constexpr (std::is_same_v<T, SignedOnWire>) {
+        int64_t value = 0;
+        if (!scalarFromJson(item, value) || value < std::numeric_limits<int32_t>::min() ||
+            value > std::numeric_limits<uint32_t>::max()) {
+            return false;
+        }
+        *out.value = static_cast<uint32_t>(value);
         return true;
     } else if constexpr (std::is_same_v<T, bool>) {
         if (!cJSON_IsBool(item)) {
@@ -256,12 +297,14 @@ void readRecordXml(R& record, xmlNode* element)
         return;
     }
     xmlNode* hint = nullptr;
+    typename Presence<R>::State presence;
     Fields<R>::visit(record, [&](const char* key, auto& member) {
         xmlNode* child = findChild(element, key, hint);
-        if (child != nullptr && readXml(member, child)) {
-            Presence<R>::mark(record, key);
+        if (child != nullptr && readAsDeclared<R>(key, member, [&](auto& m) { return readXml(m, child); })) {
+            presence.note(key);
         }
     });
+    presence.settle(record);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -335,12 +378,14 @@ void readRecordJson(R& record, cJSON* object)
         return;
     }
     cJSON* hint = nullptr;
+    typename Presence<R>::State presence;
     Fields<R>::visit(record, [&](const char* key, auto& member) {
         cJSON* value = findMember(object, key, hint);
-        if (value != nullptr && readJson(member, value)) {
-            Presence<R>::mark(record, key);
+        if (value != nullptr && readAsDeclared<R>(key, member, [&](auto& m) { return readJson(m, value); })) {
+            presence.note(key);
         }
     });
+    presence.settle(record);
 }
 
 template <typename R>
@@ -371,6 +416,19 @@ cJSON* unwrapJson(cJSON* root)
 // ---------------------------------------------------------------------------------------------
 // Parsing a whole answer
 
+// An XML answer read through libxml2's document tree: the reader of every answer that the
+// one-pass reader (XmlStream.h) leaves alone, and the rule that both follow.
+template <typename R>
+void parseAnswerTree(R& record, const std::string& text)
+{
+    xmlDocPtr doc = readXmlDocument(text.data(), text.size());
+    if (doc == nullptr) {
+        return;
+    }
+    readRecordXml(record, xmlDocGetRootElement(doc));
+    xmlFreeDoc(doc);
+}
+
 // Fills `record` from a device answer: XML when it starts with '<', JSON when with '{'.
 template <typename R>
 void parseAnswer(R& record, const std::string& text)
@@ -384,12 +442,9 @@ void parseAnswer(R& record, const std::string& text)
         return;
     }
     if (text[first] == '<') {
-        xmlDocPtr doc = readXmlDocument(text.data(), text.size());
-        if (doc == nullptr) {
-            return;
+        if (!streamAnswerXml(record, text)) {
+            parseAnswerTree(record, text);
         }
-        readRecordXml(record, xmlDocGetRootElement(doc));
-        xmlFreeDoc(doc);
     } else if (text[first] == '{') {
         cJSON* root = cJSON_ParseWithLength(text.data() + first, text.size() - first);
         if (root == nullptr) {
@@ -537,18 +592,42 @@ std::string toJson(const R& record)
     }                                                                               \
     }
 
-// `flag` is set whenever `member` was read from an answer.
+// `flag` follows the answer when the answer carries it; when it doesn't, it is set by the
+// presence of `member`.
 #define QUILLON_PRESENCE(Type, member, flag)                                        \
     namespace Quillon {                                                             \
     namespace detail {                                                              \
     template <>                                                                     \
     struct Presence<Type> {                                                         \
-        static void mark(Type& record, const char* key)                             \
-        {                                                                           \
-            if (std::strcmp(key, #member) == 0) {                                   \
-                record.flag = true;                                                 \
+        struct State {                                                              \
+            bool memberRead = false;                                                \
+            bool flagRead = false;                                                  \
+            void note(const char* key)                                              \
+            {                                                                       \
+                if (std::strcmp(key, #member) == 0) {                               \
+                    memberRead = true;                                              \
+                } else if (std::strcmp(key, #flag) == 0) {                          \
+                    flagRead = true;                                                \
+                }                                                                   \
             }                                                                       \
-        }                                                                           \
+            void settle(Type& record) const                                         \
+            {                                                                       \
+                if (memberRead && !flagRead) {                                      \
+                    record.flag = true;                                             \
+                }                                                                   \
+            }                                                                       \
+        };                                                                          \
+    };                                                                              \
+    }                                                                               \
+    }
+
+// `member` (unsigned 32-bit) is read as a signed 32-bit value too; see SignedOnWire.
+#define QUILLON_SIGNED_ON_WIRE(Type, member)                                        \
+    namespace Quillon {                                                             \
+    namespace detail {                                                              \
+    template <>                                                                     \
+    struct SignedMembers<Type> {                                                    \
+        static bool has(const char* key) { return std::strcmp(key, #member) == 0; } \
     };                                                                              \
     }                                                                               \
     }

@@ -6,6 +6,9 @@
 
 QUILLON_FIELDS(rfInfo, band, transmitPower, channel, channelInterference, onlineCount, sendUtilization,
                receiveUtilization)
+// A negative interference level is read and kept as its unsigned form, which the radio tab
+// classifies with the other values out of the device's range.
+QUILLON_SIGNED_ON_WIRE(rfInfo, channelInterference)
 QUILLON_FIELDS(ApInfo, deviceName, model, macAddress, ipAddress, serialNumber, softwareVersion, state, runTime,
                cpuUsage, memoryUsage, rfList)
 QUILLON_FIELDS(ApInfoList, apList)
@@ -40,7 +43,8 @@ QUILLON_FIELDS(BssClientInfoList, bssList)
 
 QUILLON_FIELDS(Wireless, ssid, securityMode, workScene, wirelessMode, channelWidthMode, channelWidth, channel,
                transmitPower, noise, antennaGainPresent, antennaGain)
-// A bridge that knows its antenna's gain sends it; one that doesn't leaves it out.
+// A bridge that knows its antenna's gain sends it; one that doesn't leaves it out. A bridge
+// that sends the flag itself is believed, also when it sends a gain beside a false flag.
 QUILLON_PRESENCE(Wireless, antennaGain, antennaGainPresent)
 QUILLON_FIELDS(Transmission, macAddress, ipAddress, signal, noise, sendRate, receiveRate, distance, connectSeconds)
 QUILLON_FIELDS(TransmissionList, transmissionList)

@@ -216,6 +216,74 @@ TEST(WirelessRecordsTest, BridgeWirelessReadsFullAnswer)
     EXPECT_EQ(gainOnly.antennaGain, 9);
 }
 
+TEST(WirelessRecordsTest, GainBesideAFalseFlagKeepsTheFlagFalse)
+{
+    Quillon::Wireless xml(static_cast<_xmlNode*>(nullptr));
+    xml.Parse("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Wireless><ssid>Link-02</ssid><channel>6</channel>"
+              "<noise>-92</noise><antennaGainPresent>false</antennaGainPresent><antennaGain>5</antennaGain>"
+              "</Wireless>\n");
+    EXPECT_FALSE(xml.antennaGainPresent);
+    EXPECT_EQ(xml.antennaGain, 5);
+
+    // The flag after the gain, and in JSON, wrapped or not.
+    Quillon::Wireless reversed(static_cast<_xmlNode*>(nullptr));
+    reversed.Parse("<Wireless><antennaGain>5</antennaGain><antennaGainPresent>false</antennaGainPresent></Wireless>");
+    EXPECT_FALSE(reversed.antennaGainPresent);
+    EXPECT_EQ(reversed.antennaGain, 5);
+
+    Quillon::Wireless json(static_cast<_xmlNode*>(nullptr));
+    json.Parse(R"({"Wireless": {"ssid": "Link-02", "antennaGainPresent": false, "antennaGain": 5}})");
+    EXPECT_FALSE(json.antennaGainPresent);
+    EXPECT_EQ(json.antennaGain, 5);
+    Quillon::Wireless bare(static_cast<_xmlNode*>(nullptr));
+    bare.Parse(R"({"antennaGain": 5, "antennaGainPresent": false})");
+    EXPECT_FALSE(bare.antennaGainPresent);
+    EXPECT_EQ(bare.antennaGain, 5);
+
+    // A gain without a flag still counts as present in JSON too; a true flag stays true.
+    Quillon::Wireless gainOnly(static_cast<_xmlNode*>(nullptr));
+    gainOnly.Parse(R"({"Wireless": {"antennaGain": 7}})");
+    EXPECT_TRUE(gainOnly.antennaGainPresent);
+    Quillon::Wireless flagOnly(static_cast<_xmlNode*>(nullptr));
+    flagOnly.Parse("<Wireless><antennaGainPresent>true</antennaGainPresent></Wireless>");
+    EXPECT_TRUE(flagOnly.antennaGainPresent);
+    EXPECT_EQ(flagOnly.antennaGain, -1);
+}
+
+TEST(WirelessRecordsTest, NegativeChannelInterferenceIsReadAsItsUnsignedForm)
+{
+    Quillon::ApInfoSearchResult json(std::string{});
+    json.Parse(R"({"ApInfoSearchResult": {"responseStatus": "OK", "apList": [{"ipAddress": "10.1.0.11", "rfList": [
+        {"band": 0, "channel": 6, "channelInterference": -3},
+        {"band": 1, "channel": 149, "channelInterference": -2147483648},
+        {"band": 2, "channel": 161, "channelInterference": 4294967295}]}]}})");
+    ASSERT_EQ(json.apList.size(), 1u);
+    ASSERT_EQ(json.apList[0].rfList.size(), 3u);
+    EXPECT_EQ(json.apList[0].rfList[0].channelInterference, static_cast<uint32_t>(-3));
+    EXPECT_EQ(json.apList[0].rfList[1].channelInterference, 0x80000000u);
+    EXPECT_EQ(json.apList[0].rfList[2].channelInterference, 0xFFFFFFFFu);
+
+    Quillon::ApInfoList xml(std::string{});
+    xml.Parse("<ApInfoList><apList><ApInfo><rfList><rfInfo><band>0</band><channelInterference> -1 "
+              "</channelInterference></rfInfo></rfList></ApInfo></apList></ApInfoList>");
+    ASSERT_EQ(xml.apList.size(), 1u);
+    ASSERT_EQ(xml.apList[0].rfList.size(), 1u);
+    EXPECT_EQ(xml.apList[0].rfList[0].channelInterference, 0xFFFFFFFFu);
+
+    // Beyond 32 bits either way, or not a whole number, the level keeps its value.
+    Quillon::rfInfo radio;
+    radio.channelInterference = 7;
+    radio.Parse(R"({"channelInterference": -2147483649})");
+    radio.Parse(R"({"channelInterference": 4294967296})");
+    radio.Parse(R"({"channelInterference": -1.5})");
+    radio.Parse("<rfInfo><channelInterference>-x</channelInterference></rfInfo>");
+    EXPECT_EQ(radio.channelInterference, 7u);
+    // Other unsigned members still refuse a negative number.
+    Quillon::SwitchesWorkStateItem item;
+    item.Parse("<SwitchesWorkStateItem><sendRate>-1</sendRate></SwitchesWorkStateItem>");
+    EXPECT_EQ(item.sendRate, 0u);
+}
+
 TEST(WirelessRecordsTest, WanStatusReads)
 {
     Quillon::PPPoEStatusList list(static_cast<_xmlNode*>(nullptr));

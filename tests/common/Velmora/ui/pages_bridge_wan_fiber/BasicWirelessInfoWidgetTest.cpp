@@ -415,6 +415,41 @@ TEST_F(BasicWirelessInfoWidgetTest, AbsentValuesHideTheirPairs)
     EXPECT_FALSE(page.findChild<QFrame*>("basicItemFrame")->isHidden());
 }
 
+TEST_F(BasicWirelessInfoWidgetTest, AGainSentBesideAFalseFlagIsHidden)
+{
+    // The flavour of bridge that sends its gain with the flag false, and the same card
+    // answered in JSON: the answer's flag stands and the gain stays hidden.
+    const std::string card = fleet().capabilities("bridge-b").wirelessCardID;
+    const std::string path = "/NXRPC/System/Network/interfaces/" + card + "/wireless";
+    const std::string answers[] = {
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Wireless><ssid>Link-B</ssid>"
+        "<securityMode>WPA3-SAE</securityMode><channel>6</channel><noise>-90</noise>"
+        "<antennaGainPresent>false</antennaGainPresent><antennaGain>5</antennaGain></Wireless>\n",
+        R"({"Wireless": {"ssid": "Link-B", "channel": "6", "noise": -90, "antennaGainPresent": false,
+            "antennaGain": 5}})",
+    };
+    for (const std::string& answer : answers) {
+        ASSERT_TRUE(emulator().setFault(fleet().id("bridge-b"), path, EmulatorProcess::Fault::answer(answer)));
+        CBasicWirelessInfoWidget page(nullptr);
+        fleet().open(page, "bridge-b");
+        showStatus(page);
+        EXPECT_TRUE(pairHidden(page, "m_pAntennaGainLabel")) << answer;
+        EXPECT_FALSE(pairHidden(page, "m_pSSIDLabel")) << answer;
+        EXPECT_EQ(text(page, "m_pSSIDLabel"), "Link-B");
+        EXPECT_EQ(text(page, "m_pBottomNoiseLabel"), "-90dBm");
+        ASSERT_TRUE(emulator().clearFaults());
+    }
+
+    // Without a fault the bridge's own answer (flag false, gain 5) reads the same way.
+    const Quillon::Wireless own = wireless("bridge-b");
+    EXPECT_EQ(own.antennaGain, 5);
+    EXPECT_FALSE(own.antennaGainPresent);
+    CBasicWirelessInfoWidget page(nullptr);
+    fleet().open(page, "bridge-b");
+    showStatus(page);
+    EXPECT_TRUE(pairHidden(page, "m_pAntennaGainLabel"));
+}
+
 TEST_F(BasicWirelessInfoWidgetTest, SecurityModeTexts)
 {
     struct Case {

@@ -2,6 +2,7 @@
 // record picked by address, the bars, a tab per radio with the band titles of two- and
 // three-radio APs, the current tab across refreshes, failures and the timer.
 #include <QLabel>
+#include <QPixmap>
 #include <QProgressBar>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -347,4 +348,41 @@ TEST_F(ApDeviceStatusWidgetTest, TheHostsEntrySetsTheWorkStateModeAndLoads)
     EXPECT_EQ(titles(tabsOf(*page)), expectedTitles(*ap));
     const std::vector<std::string> lines = fleet().requestLines("ac-search");
     EXPECT_NE(std::find(lines.begin(), lines.end(), kApListRequest), lines.end());
+}
+
+TEST_F(ApDeviceStatusWidgetTest, ANegativeChannelInterferenceReadsAsOutOfRange)
+{
+    // The controller answers a level below zero for the first radio: the tab blanks its
+    // verdict and image, leaves the label's colour and logs the level as out of range; the
+    // second radio's level in the interference band is shown as such.
+    const char answer[] = R"({"ApInfoSearchResult": {"searchID": "S", "responseStatus": "OK", "numOfMatches": 1,
+        "apList": [{"deviceName": "AP", "model": "QA-210", "macAddress": "aa:bb:cc:00:00:09", "ipAddress": "10.9.0.5",
+        "state": "online", "runTime": 60, "cpuUsage": 3, "memoryUsage": 4, "rfList": [
+        {"band": 0, "transmitPower": 20, "channel": 6, "channelInterference": -3, "onlineCount": 0,
+         "sendUtilization": 1, "receiveUtilization": 2},
+        {"band": 1, "transmitPower": 23, "channel": 149, "channelInterference": 12, "onlineCount": 0,
+         "sendUtilization": 1, "receiveUtilization": 2}]}]}})";
+    ASSERT_TRUE(emulator().setFault(fleet().id("ac-search"), kApListPath,
+                                    velmora::test::EmulatorProcess::Fault::answer(answer)));
+    auto page = openPage("ac-search", "10.9.0.5");
+    LogCapture log;
+    showStatus(*page);
+    TarvexGUIToolkit::CTabWidget* tabs = tabsOf(*page);
+    ASSERT_EQ(tabs->count(), 2);
+
+    QWidget* first = tabs->widget(0);
+    EXPECT_EQ(labelText(*first, "m_pChannelLabel"), "6");
+    EXPECT_EQ(labelText(*first, "m_pChannelStatusLabel"), "");
+    EXPECT_EQ(part<QLabel>(*first, "m_pChannelStatusLabel")->styleSheet(), "");
+    EXPECT_TRUE(part<QLabel>(*first, "m_pChannelStatusPixLabel")->pixmap(Qt::ReturnByValue).isNull());
+    int outOfRange = 0;
+    for (const auto& line : log.lines("ERROR"))
+        outOfRange += line.message == "Out of channel interference range" ? 1 : 0;
+    EXPECT_EQ(outOfRange, 1);
+
+    QWidget* second = tabs->widget(1);
+    EXPECT_EQ(labelText(*second, "m_pChannelStatusLabel"), "InterferenceULcuQKdYGZ");
+    EXPECT_EQ(part<QLabel>(*second, "m_pChannelStatusLabel")->styleSheet(),
+              "color: rgb(203, 94, 94);font: bold 21px;");
+    ASSERT_TRUE(emulator().clearFaults());
 }

@@ -1,0 +1,807 @@
+#pragma once
+// The fast reader of XML answers: one pass over the text that fills the record as it goes,
+// with no document tree, no copies of names or of text that is only compared, and member
+// look-up by a hash table per record.
+//
+// It reads the plain form that devices write (UTF-8, ASCII names without prefixes, text,
+// the five predefined entities and character references, attributes that are skipped) and
+// checks that form as strictly as libxml2 does. Anything else, and anything whose result
+// depends on the order in which the tree reader looks for members (a member given twice),
+// makes it give up without touching the record: the tree reader then reads the answer, so
+// what is accepted and refused stays libxml2's decision in every case.
+#include <cstdint>
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+namespace Quillon {
+namespace detail {
+
+template <typename R>
+struct Fields;
+template <typename R>
+struct Presence;
+template <typename R>
+struct SignedMembers;
+
+// An unsigned member that devices may also send as a negative number: read as a signed
+// 32-bit value and kept as the same 32 bits, so that code classifying it sees the negative
+// value's unsigned form rather than the member's default (QUILLON_SIGNED_ON_WIRE).
+struct SignedOnWire {
+    uint32_t* value;
+};
+template <typename T>
+bool scalarFromText(std::string_view raw, T& out);
+
+// What reading one element came to: the text left the plain form (the tree reader takes
+// over), or the element was read, with or without a value for its member.
+enum class XmlStep { GiveUp, NotRead, Read };
+
+// Byte equality of two short texts of `size` bytes, without a library call for the names of
+// an answer (mostly 6 to 20 bytes).
+inline bool sameBytes(const char* a, const char* b, std::size_t size)
+{
+    if (size >= 8 && size <= 16) {
+        uint64_t x0, y0, x1, y1;
+        std::memcpy(&x0, a, 8);
+        std::memcpy(&y0, b, 8);
+        std::memcpy(&x1, a + size - 8, 8);
+        std::memcpy(&y1, b + size - 8, 8);
+        return ((x0 ^ y0) | (x1 ^ y1)) == 0;
+    }
+    if (size < 8) {
+        for (std::size_t i = 0; i < size; ++i) {
+            if (a[i] != b[i]) {
+                return false;
+            }
+        }
+        return true;
+    }
+    return std::memcmp(a, b, size) == 0;
+}
+
+inline bool sameText(std::string_view a, std::string_view b)
+{
+    return a.size() == b.size() && sameBytes(a.data(), b.data(), a.size());
+}
+
+// The kind of a byte in character data.
+enum XmlKind : uint8_t { Plain, Open, Amp, Bracket, High, Bad };
+
+// Per byte: its kind (low bits) and whether it may start or continue a name of the plain form.
+constexpr uint8_t kXmlNameStart = 0x10;
+constexpr uint8_t kXmlNameChar = 0x20;
+struct XmlClasses {
+    uint8_t k[256];
+    constexpr XmlClasses() : k()
+    {
+        for (int i = 0; i < 256; ++i) {
+            k[i] = i < 0x20 ? Bad : (i >= 0x80 ? High : Plain);
+            if ((i >= 'A' && i <= 'Z') || (i >= 'a' && i <= 'z') || i == '_') {
+                k[i] |= kXmlNameStart | kXmlNameChar;
+            }
+            if ((i >= '0' && i <= '9') || i == '-' || i == '.') {
+                k[i] |= kXmlNameChar;
+            }
+        }
+        k[static_cast<unsigned char>('\t')] = Plain;
+        k[static_cast<unsigned char>('\n')] = Plain;
+        k[static_cast<unsigned char>('<')] = Open;
+        k[static_cast<unsigned char>('&')] = Amp;
+        k[static_cast<unsigned char>(']')] = Bracket;
+    }
+};
+inline constexpr XmlClasses kXmlClasses{};
+
+class XmlScanner {
+public:
+    // Documents above this size, and deeper or longer names than these, go to the tree
+    // reader, which applies libxml2's own limits (10 MB of text, depth 256, long names).
+    static constexpr std::size_t kMaxDocument = 8u << 20;
+    static constexpr int kMaxDepth = 128;
+    static constexpr std::size_t kMaxName = 1000;
+    static constexpr int kMaxAttributes = 16;
+
+    XmlScanner(const char* text, std::size_t size) : m_p(text), m_end(text + size) {}
+
+    // Byte order mark, XML declaration and blanks up to the root element's start tag, which
+    // is read. False: not the plain form.
+    bool prolog(std::string_view& rootName, bool& empty)
+    {
+        if (m_end - m_p >= 3 && std::memcmp(m_p, "\xEF\xBB\xBF", 3) == 0) {
+            m_p += 3;
+        }
+        if (m_end - m_p >= 5 && std::memcmp(m_p, "<?xml", 5) == 0 && !declaration()) {
+            return false;
+        }
+        skipBlanks();
+        if (m_p >= m_end || *m_p != '<') {
+            return false;
+        }
+        return startTag(rootName, empty);
+    }
+
+    // Only blanks may follow the root element.
+    bool epilog()
+    {
+        skipBlanks();
+        return m_p == m_end;
+    }
+
+    // Walks the content of an open element, up to and including its end tag. Character data
+    // goes to onText(first, last) in pieces (decoded references from a small buffer); each
+    // child element's start tag is read and handed to onChild(name, empty), which consumes
+    // the child. False: not the plain form.
+    template <typename OnText, typename OnChild>
+    bool content(std::string_view name, OnText&& onText, OnChild&& onChild)
+    {
+        for (;;) {
+            const char* start = m_p;
+            // Indentation eight blanks at a time, then byte by byte.
+            while (m_end - m_p >= 8) {
+                uint64_t eight;
+                std::memcpy(&eight, m_p, 8);
+                if (eight != 0x2020202020202020ull) {
+                    break;
+                }
+                m_p += 8;
+            }
+            while (m_p < m_end && kind(*m_p) == Plain) {
+                ++m_p;
+            }
+            if (m_p > start) {
+                onText(start, m_p);
+            }
+            if (m_p >= m_end) {
+                return false;
+            }
+            switch (kind(*m_p)) {
+            case Open:
+                if (m_p + 1 < m_end && m_p[1] == '/') {
+                    return endTag(name);
+                } else {
+                    std::string_view child;
+                    bool empty = false;
+                    if (!startTag(child, empty) || ++m_depth > kMaxDepth) {
+                        return false;
+                    }
+                    if (!onChild(child, empty)) {
+                        return false;
+                    }
+                    --m_depth;
+                }
+                break;
+            case Amp: {
+                char buffer[4];
+                std::size_t size = 0;
+                if (!reference(buffer, size)) {
+                    return false;
+                }
+                onText(buffer, buffer + size);
+                break;
+            }
+            case Bracket:
+                // "]]>" is not allowed in character data.
+                if (m_end - m_p >= 3 && m_p[1] == ']' && m_p[2] == '>') {
+                    return false;
+                }
+                onText(m_p, m_p + 1);
+                ++m_p;
+                break;
+            case High: {
+                const char* first = m_p;
+                if (!utf8Char()) {
+                    return false;
+                }
+                onText(first, m_p);
+                break;
+            }
+            default:
+                return false; // control characters and CR (which libxml2 rewrites)
+            }
+        }
+    }
+
+    // Reads past a child element that no member takes, checking it all the same.
+    bool skip(std::string_view name, bool empty)
+    {
+        if (empty) {
+            return true;
+        }
+        return content(name, [](const char*, const char*) {}, [this](std::string_view child, bool childEmpty) {
+            return skip(child, childEmpty);
+        });
+    }
+
+    // Where decoded text is joined when an element's text comes in several pieces.
+    std::string& scratch() { return m_scratch; }
+
+private:
+
+    static XmlKind kind(char c) { return static_cast<XmlKind>(kXmlClasses.k[static_cast<unsigned char>(c)] & 0x0F); }
+
+
+    static bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+    static bool isNameStart(char c) { return (kXmlClasses.k[static_cast<unsigned char>(c)] & kXmlNameStart) != 0; }
+    static bool isNameChar(char c) { return (kXmlClasses.k[static_cast<unsigned char>(c)] & kXmlNameChar) != 0; }
+
+    void skipBlanks()
+    {
+        while (m_p < m_end && isBlank(*m_p)) {
+            ++m_p;
+        }
+    }
+
+    bool name(std::string_view& out)
+    {
+        const char* first = m_p;
+        if (m_p >= m_end || !isNameStart(*m_p)) {
+            return false; // also names with other letters, which libxml2 checks by table
+        }
+        ++m_p;
+        while (m_p < m_end && isNameChar(*m_p)) {
+            ++m_p;
+        }
+        if (m_p < m_end && (*m_p == ':' || static_cast<unsigned char>(*m_p) >= 0x80)) {
+            return false; // prefixed or non-ASCII names
+        }
+        out = std::string_view(first, static_cast<std::size_t>(m_p - first));
+        return out.size() <= kMaxName;
+    }
+
+    bool literal(std::string_view text)
+    {
+        if (static_cast<std::size_t>(m_end - m_p) < text.size() || std::memcmp(m_p, text.data(), text.size()) != 0) {
+            return false;
+        }
+        m_p += text.size();
+        return true;
+    }
+
+    // S? '=' S?
+    bool equals()
+    {
+        skipBlanks();
+        if (m_p >= m_end || *m_p != '=') {
+            return false;
+        }
+        ++m_p;
+        skipBlanks();
+        return true;
+    }
+
+    // A quoted value of the declaration, one of `allowed`.
+    bool declarationValue(std::initializer_list<std::string_view> allowed)
+    {
+        if (m_p >= m_end || (*m_p != '"' && *m_p != '\'')) {
+            return false;
+        }
+        const char quote = *m_p++;
+        const char* first = m_p;
+        while (m_p < m_end && *m_p != quote) {
+            ++m_p;
+        }
+        if (m_p >= m_end) {
+            return false;
+        }
+        const std::string_view value(first, static_cast<std::size_t>(m_p - first));
+        ++m_p;
+        for (std::string_view candidate : allowed) {
+            if (value == candidate) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    // <?xml version="1.0" [encoding="UTF-8"] [standalone="yes|no"] ?>, nothing else.
+    bool declaration()
+    {
+        m_p += 5;
+        auto blank = [this] {
+            const char* before = m_p;
+            skipBlanks();
+            return m_p > before;
+        };
+        if (!blank() || !literal("version") || !equals() || !declarationValue({"1.0"})) {
+            return false;
+        }
+        bool spaced = blank();
+        if (spaced && literal("encoding")) {
+            if (!equals() || !declarationValue({"UTF-8", "utf-8"})) {
+                return false;
+            }
+            spaced = blank();
+        }
+        if (spaced && literal("standalone")) {
+            if (!equals() || !declarationValue({"yes", "no"})) {
+                return false;
+            }
+            blank();
+        }
+        return literal("?>");
+    }
+
+    // One well-formed UTF-8 sequence of an XML character (no surrogates, no U+FFFE, U+FFFF).
+    bool utf8Char()
+    {
+        const auto* u = reinterpret_cast<const unsigned char*>(m_p);
+        const std::size_t left = static_cast<std::size_t>(m_end - m_p);
+        auto cont = [&](std::size_t i) { return i < left && (u[i] & 0xC0) == 0x80; };
+        std::size_t length = 0;
+        if (u[0] >= 0xC2 && u[0] <= 0xDF) {
+            length = cont(1) ? 2 : 0;
+        } else if (u[0] >= 0xE0 && u[0] <= 0xEF) {
+            if (cont(1) && cont(2)) {
+                const uint32_t c = ((u[0] & 0x0Fu) << 12) | ((u[1] & 0x3Fu) << 6) | (u[2] & 0x3Fu);
+                length = (c >= 0x800 && !(c >= 0xD800 && c <= 0xDFFF) && c <= 0xFFFD) ? 3 : 0;
+            }
+        } else if (u[0] >= 0xF0 && u[0] <= 0xF4) {
+            if (cont(1) && cont(2) && cont(3)) {
+                const uint32_t c = ((u[0] & 0x07u) << 18) | ((u[1] & 0x3Fu) << 12) | ((u[2] & 0x3Fu) << 6) |
+                                   (u[3] & 0x3Fu);
+                length = (c >= 0x10000 && c <= 0x10FFFF) ? 4 : 0;
+            }
+        }
+        m_p += length;
+        return length != 0;
+    }
+
+    static bool isXmlChar(uint32_t c)
+    {
+        return c == 0x9 || c == 0xA || c == 0xD || (c >= 0x20 && c <= 0xD7FF) || (c >= 0xE000 && c <= 0xFFFD) ||
+               (c >= 0x10000 && c <= 0x10FFFF);
+    }
+
+    // &lt; &gt; &amp; &apos; &quot; &#N; &#xH; decoded into `out` (UTF-8). Other entities
+    // would need the document's type declaration.
+    bool reference(char (&out)[4], std::size_t& size)
+    {
+        ++m_p; // '&'
+        const char* semicolon = static_cast<const char*>(std::memchr(m_p, ';', std::min<std::size_t>(12, m_end - m_p)));
+        if (semicolon == nullptr) {
+            return false;
+        }
+        const std::string_view ref(m_p, static_cast<std::size_t>(semicolon - m_p));
+        m_p = semicolon + 1;
+        size = 1;
+        if (ref == "lt") {
+            out[0] = '<';
+        } else if (ref == "gt") {
+            out[0] = '>';
+        } else if (ref == "amp") {
+            out[0] = '&';
+        } else if (ref == "apos") {
+            out[0] = '\'';
+        } else if (ref == "quot") {
+            out[0] = '"';
+        } else if (ref.size() >= 2 && ref[0] == '#') {
+            const bool hex = ref[1] == 'x';
+            const std::string_view digits = ref.substr(hex ? 2 : 1);
+            if (digits.empty() || digits.size() > 7) {
+                return false;
+            }
+            uint32_t c = 0;
+            for (char d : digits) {
+                uint32_t v;
+                if (d >= '0' && d <= '9') {
+                    v = static_cast<uint32_t>(d - '0');
+                } else if (hex && d >= 'a' && d <= 'f') {
+                    v = static_cast<uint32_t>(d - 'a' + 10);
+                } else if (hex && d >= 'A' && d <= 'F') {
+                    v = static_cast<uint32_t>(d - 'A' + 10);
+                } else {
+                    return false;
+                }
+                c = c * (hex ? 16 : 10) + v;
+            }
+            if (!isXmlChar(c)) {
+                return false;
+            }
+            if (c < 0x80) {
+                out[0] = static_cast<char>(c);
+            } else if (c < 0x800) {
+                out[0] = static_cast<char>(0xC0 | (c >> 6));
+                out[1] = static_cast<char>(0x80 | (c & 0x3F));
+                size = 2;
+            } else if (c < 0x10000) {
+                out[0] = static_cast<char>(0xE0 | (c >> 12));
+                out[1] = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+                out[2] = static_cast<char>(0x80 | (c & 0x3F));
+                size = 3;
+            } else {
+                out[0] = static_cast<char>(0xF0 | (c >> 18));
+                out[1] = static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+                out[2] = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+                out[3] = static_cast<char>(0x80 | (c & 0x3F));
+                size = 4;
+            }
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    // A quoted attribute value; the value itself is not kept.
+    bool attributeValue()
+    {
+        if (m_p >= m_end || (*m_p != '"' && *m_p != '\'')) {
+            return false;
+        }
+        const char quote = *m_p++;
+        while (m_p < m_end && *m_p != quote) {
+            const auto c = static_cast<unsigned char>(*m_p);
+            if (c == '<' || (c < 0x20 && c != '\t' && c != '\n' && c != '\r')) {
+                return false;
+            }
+            if (c == '&') {
+                char buffer[4];
+                std::size_t size = 0;
+                if (!reference(buffer, size)) {
+                    return false;
+                }
+            } else if (c >= 0x80) {
+                if (!utf8Char()) {
+                    return false;
+                }
+            } else {
+                ++m_p;
+            }
+        }
+        if (m_p >= m_end) {
+            return false;
+        }
+        ++m_p;
+        return true;
+    }
+
+    // At '<': the name, the attributes (checked, skipped) and '>' or '/>'.
+    bool startTag(std::string_view& tag, bool& empty)
+    {
+        ++m_p;
+        if (!name(tag)) {
+            return false;
+        }
+        if (m_p < m_end && *m_p == '>') { // the usual tag, without attributes
+            ++m_p;
+            empty = false;
+            return true;
+        }
+        const char* attributes[kMaxAttributes]; // names, for the check against repeats
+        std::size_t lengths[kMaxAttributes];
+        int count = 0;
+        for (;;) {
+            const char* before = m_p;
+            skipBlanks();
+            if (m_p >= m_end) {
+                return false;
+            }
+            if (*m_p == '>') {
+                ++m_p;
+                empty = false;
+                return true;
+            }
+            if (*m_p == '/') {
+                if (m_p + 1 >= m_end || m_p[1] != '>') {
+                    return false;
+                }
+                m_p += 2;
+                empty = true;
+                return true;
+            }
+            std::string_view attribute;
+            if (m_p == before || count == kMaxAttributes || !name(attribute) || !equals() || !attributeValue()) {
+                return false;
+            }
+            for (int i = 0; i < count; ++i) {
+                if (std::string_view(attributes[i], lengths[i]) == attribute) {
+                    return false;
+                }
+            }
+            attributes[count] = attribute.data();
+            lengths[count++] = attribute.size();
+        }
+    }
+
+    // At "</": the end tag of `open`.
+    bool endTag(std::string_view open)
+    {
+        m_p += 2;
+        if (static_cast<std::size_t>(m_end - m_p) < open.size() || !sameBytes(m_p, open.data(), open.size())) {
+            return false;
+        }
+        m_p += open.size();
+        skipBlanks();
+        if (m_p >= m_end || *m_p != '>') {
+            return false;
+        }
+        ++m_p;
+        return true;
+    }
+
+    const char* m_p;
+    const char* m_end;
+    int m_depth = 1;
+    std::string m_scratch;
+};
+
+// The text of a scalar element, in place when it comes in one piece, else joined.
+class XmlText {
+public:
+    explicit XmlText(std::string& scratch) : m_scratch(scratch) {}
+    void add(const char* first, const char* last)
+    {
+        if (!m_joined) {
+            if (m_first == nullptr) {
+                m_first = first;
+                m_last = last;
+                return;
+            }
+            if (first == m_last) {
+                m_last = last;
+                return;
+            }
+            m_scratch.assign(m_first, m_last);
+            m_joined = true;
+        }
+        m_scratch.append(first, last);
+    }
+    std::string_view view() const
+    {
+        return m_joined ? std::string_view(m_scratch)
+                        : std::string_view(m_first, static_cast<std::size_t>(m_last - m_first));
+    }
+
+private:
+    std::string& m_scratch;
+    const char* m_first = nullptr;
+    const char* m_last = nullptr;
+    bool m_joined = false;
+};
+
+template <typename T>
+XmlStep streamXml(T& out, XmlScanner& scanner, std::string_view name, bool empty);
+
+// The members of a record by wire name: their place in the record and their reader. Built
+// once per record from its field list.
+template <typename R>
+class XmlMemberTable {
+public:
+    struct Member {
+        std::string_view key;
+        const char* keyText;
+        std::size_t offset;
+        XmlStep (*read)(void* member, XmlScanner&, std::string_view, bool);
+    };
+
+    static const XmlMemberTable& instance()
+    {
+        static const XmlMemberTable table;
+        return table;
+    }
+
+    // The index of the member named `name`, or -1. `expected` is tried first: devices write
+    // the members in order, so it is usually the one after the last member read.
+    int find(std::string_view name, int expected) const
+    {
+        if (expected >= 0 && static_cast<std::size_t>(expected) < m_members.size() &&
+            sameText(m_members[static_cast<std::size_t>(expected)].key, name)) {
+            return expected;
+        }
+        for (std::size_t slot = hash(name) & kMask;; slot = (slot + 1) & kMask) {
+            const int index = m_slots[slot];
+            if (index < 0 || sameText(m_members[static_cast<std::size_t>(index)].key, name)) {
+                return index;
+            }
+        }
+    }
+
+    const Member& member(int index) const { return m_members[static_cast<std::size_t>(index)]; }
+
+private:
+    static constexpr std::size_t kSlots = 64; // a power of two, above twice the largest record
+    static constexpr std::size_t kMask = kSlots - 1;
+
+    // Length and three letters: enough to tell the members of one record apart, mostly.
+    static std::size_t hash(std::string_view name)
+    {
+        if (name.empty()) {
+            return 0;
+        }
+        const auto at = [&](std::size_t i) { return static_cast<std::size_t>(static_cast<unsigned char>(name[i])); };
+        return name.size() * 7 + at(0) * 3 + at(name.size() / 2) * 5 + at(name.size() - 1);
+    }
+
+    XmlMemberTable()
+    {
+        for (int& slot : m_slots) {
+            slot = -1;
+        }
+        R probe;
+        const char* base = reinterpret_cast<const char*>(&probe);
+        Fields<R>::visit(probe, [&](const char* key, auto& member) {
+            using M = std::decay_t<decltype(member)>;
+            const std::size_t offset = static_cast<std::size_t>(reinterpret_cast<const char*>(&member) - base);
+            auto read = [](void* m, XmlScanner& s, std::string_view n, bool e) {
+                return streamXml(*static_cast<M*>(m), s, n, e);
+            };
+            XmlStep (*reader)(void*, XmlScanner&, std::string_view, bool) = read;
+            if constexpr (std::is_same_v<M, uint32_t>) {
+                if (SignedMembers<R>::has(key)) {
+                    reader = [](void* m, XmlScanner& s, std::string_view n, bool e) {
+                        SignedOnWire wide{static_cast<uint32_t*>(m)};
+                        return streamXml(wide, s, n, e);
+                    };
+                }
+            }
+            m_members.push_back({std::string_view(key), key, offset, reader});
+        });
+        static_assert(kSlots >= 64, "table too small");
+        for (std::size_t i = 0; i < m_members.size(); ++i) {
+            std::size_t slot = hash(m_members[i].key) & kMask;
+            while (m_slots[slot] >= 0) {
+                slot = (slot + 1) & kMask;
+            }
+            m_slots[slot] = static_cast<int>(i);
+        }
+    }
+
+    std::vector<Member> m_members;
+    int m_slots[kSlots];
+};
+
+template <typename R>
+XmlStep streamRecordXml(R& record, XmlScanner& scanner, std::string_view name, bool empty)
+{
+    typename Presence<R>::State presence;
+    if (!empty) {
+        const XmlMemberTable<R>& table = XmlMemberTable<R>::instance();
+        uint64_t seen = 0;
+        int expected = 0;
+        const bool plain = scanner.content(
+            name, [](const char*, const char*) {},
+            [&](std::string_view child, bool childEmpty) {
+                const int index = table.find(child, expected);
+                if (index < 0) {
+                    return scanner.skip(child, childEmpty);
+                }
+                const uint64_t bit = uint64_t{1} << index;
+                if ((seen & bit) != 0) {
+                    return false; // a member given twice: the tree reader's order decides
+                }
+                seen |= bit;
+                expected = index + 1;
+                const auto& member = table.member(index);
+                const XmlStep step =
+                    member.read(reinterpret_cast<char*>(&record) + member.offset, scanner, child, childEmpty);
+                if (step == XmlStep::Read) {
+                    presence.note(member.keyText);
+                }
+                return step != XmlStep::GiveUp;
+            });
+        if (!plain) {
+            return XmlStep::GiveUp;
+        }
+    }
+    presence.settle(record);
+    return XmlStep::Read;
+}
+
+template <typename T>
+struct IsStdVector : std::false_type {};
+template <typename T, typename A>
+struct IsStdVector<std::vector<T, A>> : std::true_type {};
+template <typename T>
+struct IsStdArray : std::false_type {};
+template <typename T, std::size_t N>
+struct IsStdArray<std::array<T, N>> : std::true_type {};
+template <typename T, typename = void>
+struct HasFields : std::false_type {};
+template <typename T>
+struct HasFields<T, std::void_t<decltype(Fields<T>::name())>> : std::true_type {};
+
+template <typename T>
+XmlStep streamXml(T& out, XmlScanner& scanner, std::string_view name, bool empty)
+{
+    if constexpr (HasFields<T>::value) {
+        return streamRecordXml(out, scanner, name, empty);
+    } else if constexpr (IsStdVector<T>::value) {
+        using Item = typename T::value_type;
+        T items;
+        if (!empty) {
+            const bool plain = scanner.content(name, [](const char*, const char*) {},
+                                               [&](std::string_view child, bool childEmpty) {
+                                                   if constexpr (std::is_same_v<Item, bool>) {
+                                                       bool item = false;
+                                                       const XmlStep step = streamXml(item, scanner, child, childEmpty);
+                                                       if (step == XmlStep::Read) {
+                                                           items.push_back(item);
+                                                       }
+                                                       return step != XmlStep::GiveUp;
+                                                   } else {
+                                                       // Read in place; an item without a value is taken back.
+                                                       items.emplace_back();
+                                                       const XmlStep step =
+                                                           streamXml(items.back(), scanner, child, childEmpty);
+                                                       if (step != XmlStep::Read) {
+                                                           items.pop_back();
+                                                       }
+                                                       return step != XmlStep::GiveUp;
+                                                   }
+                                               });
+            if (!plain) {
+                return XmlStep::GiveUp;
+            }
+        }
+        out = std::move(items);
+        return XmlStep::Read;
+    } else if constexpr (IsStdArray<T>::value) {
+        std::size_t index = 0;
+        if (!empty) {
+            const bool plain = scanner.content(name, [](const char*, const char*) {},
+                                               [&](std::string_view child, bool childEmpty) {
+                                                   if (index >= out.size()) {
+                                                       return scanner.skip(child, childEmpty);
+                                                   }
+                                                   typename T::value_type value{};
+                                                   const XmlStep step = streamXml(value, scanner, child, childEmpty);
+                                                   if (step == XmlStep::Read) {
+                                                       out[index++] = value;
+                                                   }
+                                                   return step != XmlStep::GiveUp;
+                                               });
+            if (!plain) {
+                return XmlStep::GiveUp;
+            }
+        }
+        return XmlStep::Read;
+    } else {
+        // A value: the element's text, read only when it holds no element.
+        XmlText text(scanner.scratch());
+        bool hasElement = false;
+        if (!empty) {
+            const bool plain = scanner.content(
+                name, [&](const char* first, const char* last) { text.add(first, last); },
+                [&](std::string_view child, bool childEmpty) {
+                    hasElement = true;
+                    return scanner.skip(child, childEmpty);
+                });
+            if (!plain) {
+                return XmlStep::GiveUp;
+            }
+        }
+        if (hasElement) {
+            return XmlStep::NotRead;
+        }
+        return scalarFromText(text.view(), out) ? XmlStep::Read : XmlStep::NotRead;
+    }
+}
+
+// Reads a whole XML answer into `record` in one pass. False, with `record` untouched, when
+// the answer isn't in the plain form; the tree reader then decides.
+template <typename R>
+bool streamAnswerXml(R& record, const std::string& text)
+{
+    if (text.size() > XmlScanner::kMaxDocument) {
+        return false;
+    }
+    XmlScanner scanner(text.data(), text.size());
+    std::string_view root;
+    bool empty = false;
+    if (!scanner.prolog(root, empty)) {
+        return false;
+    }
+    R read = record;
+    if (streamRecordXml(read, scanner, root, empty) == XmlStep::GiveUp || !scanner.epilog()) {
+        return false;
+    }
+    record = std::move(read);
+    return true;
+}
+
+} // namespace detail
+} // namespace Quillon
