@@ -248,7 +248,7 @@ struct Wireless {
     std::string channel;          // channel or frequency
     int32_t transmitPower = -1;   // dBm; -1 when absent
     int32_t noise = -1;           // dBm; -1 when absent
-    bool antennaGainPresent = false; // antennaGain below is valid (also set when the answer carries it)
+    bool antennaGainPresent = false; // antennaGain below is valid; an answer with a gain but without this flag sets it
     int32_t antennaGain = -1;     // dBi; -1 when absent
 };
 
