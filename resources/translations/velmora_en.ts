@@ -719,6 +719,10 @@
         <source>TheConnectionTime</source>
         <translation>Connected for</translation>
     </message>
+    <message>
+        <source>A private (randomised) address: it belongs to no vendor.</source>
+        <translation>A private (randomised) address: it belongs to no vendor.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::CConnectedDeviceInfoModel</name>
@@ -873,6 +877,73 @@
     <message>
         <source>SenderName</source>
         <translation>Sender name</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::CPanelStatusBase</name>
+    <message>
+        <source>Slot %1</source>
+        <translation>Slot %1</translation>
+    </message>
+    <message>
+        <source>Port %1</source>
+        <translation>Port %1</translation>
+    </message>
+    <message>
+        <source>Board: %1</source>
+        <translation>Board: %1</translation>
+    </message>
+    <message>
+        <source>No board</source>
+        <translation>No board</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Not connected</translation>
+    </message>
+    <message>
+        <source>Link: %1</source>
+        <translation>Link: %1</translation>
+    </message>
+    <message>
+        <source>Full duplex</source>
+        <translation>Full duplex</translation>
+    </message>
+    <message>
+        <source>Half duplex</source>
+        <translation>Half duplex</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Rate: %1, %2</source>
+        <translation>Rate: %1, %2</translation>
+    </message>
+    <message>
+        <source>PoE output power: %1 W</source>
+        <translation>PoE output power: %1 W</translation>
+    </message>
+    <message>
+        <source>Alarm: %1</source>
+        <translation>Alarm: %1</translation>
+    </message>
+    <message>
+        <source>In alarm</source>
+        <translation>In alarm</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Neighbour: %1 (%2), %3</source>
+        <translation>Neighbour: %1 (%2), %3</translation>
     </message>
 </context>
 <context>

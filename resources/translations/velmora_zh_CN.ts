@@ -719,6 +719,10 @@
         <source>TheConnectionTime</source>
         <translation>连接时长</translation>
     </message>
+    <message>
+        <source>A private (randomised) address: it belongs to no vendor.</source>
+        <translation>私有（随机）地址，不属于任何厂商。</translation>
+    </message>
 </context>
 <context>
     <name>velmora::CConnectedDeviceInfoModel</name>
@@ -873,6 +877,73 @@
     <message>
         <source>SenderName</source>
         <translation>发送端名称</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::CPanelStatusBase</name>
+    <message>
+        <source>Slot %1</source>
+        <translation>槽位 %1</translation>
+    </message>
+    <message>
+        <source>Port %1</source>
+        <translation>端口 %1</translation>
+    </message>
+    <message>
+        <source>Board: %1</source>
+        <translation>板卡：%1</translation>
+    </message>
+    <message>
+        <source>No board</source>
+        <translation>未插板卡</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>Link: %1</source>
+        <translation>链路：%1</translation>
+    </message>
+    <message>
+        <source>Full duplex</source>
+        <translation>全双工</translation>
+    </message>
+    <message>
+        <source>Half duplex</source>
+        <translation>半双工</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Rate: %1, %2</source>
+        <translation>速率：%1，%2</translation>
+    </message>
+    <message>
+        <source>PoE output power: %1 W</source>
+        <translation>PoE 输出功率：%1 W</translation>
+    </message>
+    <message>
+        <source>Alarm: %1</source>
+        <translation>告警：%1</translation>
+    </message>
+    <message>
+        <source>In alarm</source>
+        <translation>告警中</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Neighbour: %1 (%2), %3</source>
+        <translation>邻居：%1（%2），%3</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,7 @@ FleetDeviceRow fleetDeviceRow(const ostrand::DeviceEntry& device)
     FleetDeviceRow row;
     row.strId = QString::fromStdString(device.id);
     row.strName = QString::fromUtf8(device.name.c_str());
+    row.category = device.category;
     row.strClass = deviceTypeToString(static_cast<tarvex7300::Device::DeviceCategory>(device.category));
     row.strModel = QString::fromStdString(device.model);
     row.strAddress = QString("%1:%2").arg(QString::fromStdString(device.address)).arg(device.port);
@@ -20,7 +21,19 @@ FleetDeviceRow fleetDeviceRow(const ostrand::DeviceEntry& device)
 CFleetModel::CFleetModel(QObject* parent)
     : TarvexGUIToolkit::CStandardItemModel(parent)
 {
+    retranslate();
+}
+
+void CFleetModel::retranslate()
+{
     SetHorizontalHeader({tr("Name"), tr("Class"), tr("Model"), tr("Address")});
+    for (int row = 0; row < rowCount(QModelIndex()); ++row) {
+        QStandardItem* classItem = item(row, COLUMN_CLASS);
+        if (classItem) {
+            const int category = classItem->data(kCategoryRole).toInt();
+            classItem->setText(deviceTypeToString(static_cast<tarvex7300::Device::DeviceCategory>(category)));
+        }
+    }
 }
 
 int CFleetModel::columnCount(const QModelIndex& parent) const
@@ -38,6 +51,7 @@ void CFleetModel::setDevices(const std::vector<FleetDeviceRow>& rows)
             item->setData(row.strId, kDeviceIdRole);
             items << item;
         }
+        items.at(COLUMN_CLASS)->setData(row.category, kCategoryRole);
         appendRow(items);
     }
 }

@@ -16,6 +16,7 @@ struct FleetDeviceRow {
     QString strId;
     QString strName;
     QString strClass;   // deviceTypeToString of the category
+    int category = 0;   // the device's category, to name the class again in another language
     QString strModel;
     QString strAddress; // address:port
 };
@@ -29,10 +30,15 @@ public:
     enum Column { COLUMN_NAME, COLUMN_CLASS, COLUMN_MODEL, COLUMN_ADDRESS, COLUMN_COUNT };
     // The role of every cell that holds the row's device identifier.
     static constexpr int kDeviceIdRole = Qt::UserRole;
+    // The role of the class cell that holds the device's category.
+    static constexpr int kCategoryRole = Qt::UserRole + 1;
 
     explicit CFleetModel(QObject* parent = nullptr);
 
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+
+    // Sets the column titles and the class names from the installed catalogs.
+    void retranslate();
 
     // Replaces all rows.
     void setDevices(const std::vector<FleetDeviceRow>& rows);

@@ -1,5 +1,7 @@
 #include "FleetWindow.h"
 
+#include <QAction>
+#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
@@ -7,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QScreen>
 #include <QWidget>
 #include <algorithm>
@@ -17,6 +20,7 @@
 #include "SwitchDeviceStatusWidget.h"
 #include "TarvexGUIToolkit/MutilColumnFilterProxyModel.h"
 #include "TarvexGUIToolkit/TableView.h"
+#include "ViewerTranslations.h"
 #include "ostrand/DeviceRegistry.h"
 #include "ui_UiFleetWindow.h"
 
@@ -37,6 +41,12 @@ CFleetWindow::CFleetWindow(QWidget* parent)
     , m_pUi(new Ui_UiFleetWindow)
     , m_pFleetModel(new CFleetModel(this))
     , m_pProxyModel(new TarvexGUIToolkit::CMutilColumnFilterProxyModel(this))
+    , m_pLanguageMenu(nullptr)
+    , m_pLanguageGroup(nullptr)
+    , m_pEnglishAction(nullptr)
+    , m_pChineseAction(nullptr)
+    , m_pKeysAction(nullptr)
+    , m_registryDeviceCount(0)
 {
     m_pUi->setupUi(this);
     m_pUi->m_pProblemLabel->setTextFormat(Qt::PlainText);
@@ -61,6 +71,7 @@ CFleetWindow::CFleetWindow(QWidget* parent)
     connect(m_pUi->m_pOpenAction, &QAction::triggered, this, &CFleetWindow::openCurrentDevice);
     connect(m_pUi->m_pReloadAction, &QAction::triggered, this, &CFleetWindow::reloadRegistry);
     connect(m_pUi->m_pQuitAction, &QAction::triggered, this, &QWidget::close);
+    createLanguageMenu();
 
     reloadRegistry();
 }
@@ -75,6 +86,95 @@ QMenu* CFleetWindow::deviceMenu() const
     return m_pUi->m_pDeviceMenu;
 }
 
+QMenu* CFleetWindow::languageMenu() const
+{
+    return m_pLanguageMenu;
+}
+
+QString CFleetWindow::language() const
+{
+    return installedViewerLanguage();
+}
+
+void CFleetWindow::createLanguageMenu()
+{
+    m_pLanguageMenu = menuBar()->addMenu(QString());
+    m_pLanguageMenu->setObjectName(QStringLiteral("m_pLanguageMenu"));
+    m_pLanguageMenu->setToolTipsVisible(true);
+    m_pLanguageGroup = new QActionGroup(this);
+    m_pLanguageGroup->setExclusive(true);
+    const auto addLanguage = [this](const char* objectName, const QString& language) {
+        QAction* action = m_pLanguageMenu->addAction(QString());
+        action->setObjectName(QString::fromLatin1(objectName));
+        action->setCheckable(true);
+        action->setData(language);
+        m_pLanguageGroup->addAction(action);
+        connect(action, &QAction::triggered, this, [this, language] { switchLanguage(language); });
+        return action;
+    };
+    m_pEnglishAction = addLanguage("m_pEnglishAction", QStringLiteral("en"));
+    m_pChineseAction = addLanguage("m_pChineseAction", QStringLiteral("zh_CN"));
+    m_pKeysAction = addLanguage("m_pKeysAction", QStringLiteral("keys"));
+    retranslateLanguageMenu();
+}
+
+bool CFleetWindow::switchLanguage(const QString& language)
+{
+    const bool switched = installViewerLanguage(language);
+    // On failure the check mark goes back to the language still installed.
+    retranslate();
+    return switched;
+}
+
+void CFleetWindow::retranslate()
+{
+    m_pUi->retranslateUi(this);
+    m_pFleetModel->retranslate();
+    // Class names change with the language: sorted and fitted again.
+    sortAndFitColumns();
+    retranslateLanguageMenu();
+    showCurrentProblem();
+    showCount();
+}
+
+void CFleetWindow::retranslateLanguageMenu()
+{
+    if (m_pLanguageMenu) {
+        m_pLanguageMenu->setTitle(tr("&Language"));
+        // Each language is named in its own words as well, so that it is found from any other.
+        m_pEnglishAction->setText(tr("English"));
+        m_pChineseAction->setText(tr("中文 (简体)"));
+        m_pKeysAction->setText(tr("Keys"));
+        const QString keepNote =
+            tr("Status dialogs opened from now on use the new language; open ones keep theirs.");
+        m_pEnglishAction->setToolTip(tr("Show the texts in English") + '\n' + keepNote);
+        m_pChineseAction->setToolTip(tr("Show the texts in Simplified Chinese") + '\n' + keepNote);
+        m_pKeysAction->setToolTip(tr("Show the raw translation keys") + '\n' + keepNote);
+        const QString current = installedViewerLanguage();
+        for (QAction* action : m_pLanguageGroup->actions()) {
+            action->setStatusTip(keepNote);
+            action->setChecked(action->data().toString() == current);
+        }
+    }
+}
+
+void CFleetWindow::changeEvent(QEvent* event)
+{
+    // Catalogs installed by anyone else (the viewer's start, a test) reach the window too.
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QMainWindow::changeEvent(event);
+}
+
+void CFleetWindow::showCurrentProblem()
+{
+    if (!m_strMissingDeviceId.isEmpty()) {
+        showProblem(tr("The device %1 is no longer in the registry; reload it.").arg(m_strMissingDeviceId));
+        return;
+    }
+    showProblem(registryProblemMessage(m_strRegistryPath, m_registryDeviceCount, m_strRegistryError));
+}
+
 void CFleetWindow::reloadRegistry()
 {
     ostrand::CDeviceRegistry& registry = ostrand::CDeviceRegistry::instance();
@@ -84,14 +184,22 @@ void CFleetWindow::reloadRegistry()
     for (const ostrand::DeviceEntry& device : devices)
         rows.push_back(fleetDeviceRow(device));
     m_pFleetModel->setDevices(rows);
+    sortAndFitColumns();
+
+    m_strMissingDeviceId.clear();
+    m_strRegistryPath = QString::fromStdString(registry.path());
+    m_registryDeviceCount = static_cast<int>(devices.size());
+    m_strRegistryError = QString::fromStdString(registry.lastError());
+    showCurrentProblem();
+    showCount();
+}
+
+void CFleetWindow::sortAndFitColumns()
+{
     m_pProxyModel->sort(m_pProxyModel->sortColumn(), m_pProxyModel->sortOrder());
     // The address column takes the rest of the width.
     for (int column : {CFleetModel::COLUMN_NAME, CFleetModel::COLUMN_CLASS, CFleetModel::COLUMN_MODEL})
         m_pUi->m_pDeviceTable->resizeColumnToContents(column);
-
-    showProblem(registryProblemMessage(QString::fromStdString(registry.path()), static_cast<int>(devices.size()),
-                                       QString::fromStdString(registry.lastError())));
-    showCount();
 }
 
 QString CFleetWindow::registryProblemMessage(const QString& path, int deviceCount, const QString& lastError)
@@ -166,7 +274,8 @@ CSwitchDeviceStatusWidget* CFleetWindow::openDevice(const QString& deviceId)
     }
     const auto device = ostrand::CDeviceRegistry::instance().find(id);
     if (!device) {
-        showProblem(tr("The device %1 is no longer in the registry; reload it.").arg(deviceId));
+        m_strMissingDeviceId = deviceId;
+        showCurrentProblem();
         return nullptr;
     }
 

@@ -10,7 +10,7 @@
 #include "FleetWindow.h"
 #include "PageSnapshots.h"
 #include "SwitchDeviceStatusWidget.h"
-#include "VelmoraTranslations.h"
+#include "ViewerTranslations.h"
 #include "ViewerOptions.h"
 #include "ostrand/DeviceRegistry.h"
 
@@ -194,7 +194,7 @@ int main(int argc, char** argv)
 
     // Installed before the first widget is made: forms take their texts when they are set up.
     const QString language = viewerLanguage(options);
-    if (language != "keys" && !installTranslations(language))
+    if (!installViewerLanguage(language))
         err() << "velmora-viewer: no translations for " << language << "; showing the keys" << Qt::endl;
 
     if (options.list)

@@ -3,7 +3,8 @@
 # ":/Tarvex7300/Velmora/Translations/". VelmoraTranslations installs them on request.
 #
 # When tr keys change, `cmake --build build --target velmora-lupdate` brings the .ts files of
-# the module and of the toolkit up to date (new keys unfinished, removed keys dropped); the
+# the module and of the toolkit up to date (new keys unfinished, removed keys dropped), and
+# through velmora-viewer-lupdate those of the viewer (tools/viewer/CMakeLists.txt); the
 # translation catalog test fails until every key has its finished translation.
 target_sources(velmora_ui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/VelmoraTranslations.h

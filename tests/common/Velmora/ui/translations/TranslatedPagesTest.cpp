@@ -98,6 +98,9 @@ LanguageTexts languageTexts(const QString& language)
 {
     LanguageTexts texts;
     for (const auto& set : velmora::test::catalogSets()) {
+        // The pages show the module's and the toolkit's texts, never the viewer's.
+        if (set.name == "viewer")
+            continue;
         for (const QString& tsFile : set.tsFiles) {
             if (!tsFile.endsWith("_" + language + ".ts"))
                 continue;

@@ -84,7 +84,8 @@ inline QString sourcePath(const QString& relative)
 }
 #endif
 
-// The catalogs of the module and of the toolkit, each with the folders its keys come from.
+// The catalogs of the module, of the toolkit and of the viewer, each with the folders its keys
+// come from.
 struct CatalogSet {
     QString name;
     QStringList sourceFolders; // relative to the source root
@@ -99,6 +100,9 @@ inline std::vector<CatalogSet> catalogSets()
          {"platform/TarvexGUIToolkit/src", "platform/TarvexGUIToolkit/include"},
          {"platform/TarvexGUIToolkit/translations/tarvexguitoolkit_en.ts",
           "platform/TarvexGUIToolkit/translations/tarvexguitoolkit_zh_CN.ts"}},
+        {"viewer",
+         {"tools/viewer"},
+         {"tools/viewer/translations/velmora-viewer_en.ts", "tools/viewer/translations/velmora-viewer_zh_CN.ts"}},
     };
 }
 
