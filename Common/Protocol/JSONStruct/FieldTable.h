@@ -370,6 +370,8 @@ namespace detail {
 enum class FieldKind : uint8_t { String, Integer, Boolean, Real, Record, StringList, IntegerList, RecordList };
 
 // What the slot engine does with a nested record, or with a list of records, of one type.
+// A nested record needs only the first two; the list operations are filled in for element
+// types alone, so that no vector code is generated for a type that is never listed.
 struct RecordOps {
     void (*read)(void* record, const cJSON* json);
     cJSON* (*write)(void* record);
@@ -381,11 +383,30 @@ struct RecordOps {
 };
 
 template <class T>
-const RecordOps* recordOps()
+void readNested(void* record, const cJSON* json)
+{
+    static_cast<T*>(record)->T::fromJSON(json);
+}
+
+template <class T>
+cJSON* writeNested(void* record)
+{
+    return static_cast<T*>(record)->T::toJSON();
+}
+
+template <class T>
+const RecordOps* nestedOps()
+{
+    static constexpr RecordOps ops = {&readNested<T>, &writeNested<T>, nullptr, nullptr, nullptr, nullptr, nullptr};
+    return &ops;
+}
+
+template <class T>
+const RecordOps* elementOps()
 {
     static constexpr RecordOps ops = {
-        [](void* record, const cJSON* json) { static_cast<T*>(record)->T::fromJSON(json); },
-        [](void* record) { return static_cast<T*>(record)->T::toJSON(); },
+        &readNested<T>,
+        &writeNested<T>,
         [](void* list) { static_cast<std::vector<T>*>(list)->clear(); },
         [](void* list, size_t count) { static_cast<std::vector<T>*>(list)->reserve(count); },
         [](void* list) -> void* { return &static_cast<std::vector<T>*>(list)->emplace_back(); },
@@ -442,11 +463,11 @@ template <class Member>
 const RecordOps* opsOf()
 {
     if constexpr (kIsRecord<Member>)
-        return recordOps<Member>();
+        return nestedOps<Member>();
     else if constexpr (kIsList<Member>) {
         using Element = typename ListTraits<Member>::Element;
         if constexpr (kIsRecord<Element>)
-            return recordOps<Element>();
+            return elementOps<Element>();
         else
             return nullptr;
     } else {
