@@ -430,7 +430,7 @@ struct FieldSlot {
 struct RecordLayout {
     RecordLayout(std::vector<FieldSlot> fieldSlots);
 
-    std::vector<FieldSlot> slots;
+    std::vector<FieldSlot> fields;   // not "slots": Qt defines that word away
     KeyIndex index;
 };
 

@@ -87,11 +87,11 @@ bool equalFolded(const char* left, const char* right)
 KeyIndex::KeyIndex(const char* const* keys, int count)
     : m_keys(keys, keys + count), m_next(static_cast<size_t>(count), -1)
 {
-    size_t slots = 4;
-    while (slots < static_cast<size_t>(count) * 2)
-        slots *= 2;
-    m_slots.assign(slots, -1);
-    m_mask = slots - 1;
+    size_t slotCount = 4;
+    while (slotCount < static_cast<size_t>(count) * 2)
+        slotCount *= 2;
+    m_slots.assign(slotCount, -1);
+    m_mask = slotCount - 1;
     for (int field = 0; field < count; ++field) {
         const int first = find(keys[field]);
         if (first >= 0) {
@@ -119,10 +119,10 @@ int KeyIndex::find(const char* name) const
 }
 
 RecordLayout::RecordLayout(std::vector<FieldSlot> fieldSlots)
-    : slots(std::move(fieldSlots)), index([this] {
+    : fields(std::move(fieldSlots)), index([this] {
           std::vector<const char*> keys;
-          keys.reserve(slots.size());
-          for (const FieldSlot& slot : slots)
+          keys.reserve(fields.size());
+          for (const FieldSlot& slot : fields)
               keys.push_back(slot.lookupKey);
           return KeyIndex(keys.data(), static_cast<int>(keys.size()));
       }())
@@ -241,7 +241,7 @@ void readLayout(IJSONStruct& record, char* base, const RecordLayout& layout, con
 {
     if (json == nullptr)
         return;
-    for (const FieldSlot& slot : layout.slots) {
+    for (const FieldSlot& slot : layout.fields) {
         if (slot.kind == FieldKind::StringList)
             memberAt<std::vector<std::string>>(base + slot.offset).clear();
         else if (slot.kind == FieldKind::IntegerList)
@@ -249,15 +249,15 @@ void readLayout(IJSONStruct& record, char* base, const RecordLayout& layout, con
         else if (slot.kind == FieldKind::RecordList)
             slot.ops->clearList(base + slot.offset);
     }
-    record.presentKeys.reserve(layout.slots.size());
-    TakenFields taken(layout.slots.size());
+    record.presentKeys.reserve(layout.fields.size());
+    TakenFields taken(layout.fields.size());
     for (const cJSON* member = json->child; member != nullptr; member = member->next) {
         if (member->string == nullptr)
             continue;
         for (int field = layout.index.find(member->string); field >= 0; field = layout.index.next(field)) {
             if (!taken.take(static_cast<size_t>(field)))
                 continue;
-            const FieldSlot& slot = layout.slots[static_cast<size_t>(field)];
+            const FieldSlot& slot = layout.fields[static_cast<size_t>(field)];
             readSlot(slot, base + slot.offset, member);
             record.presentKeys.insert(slot.presentName);
         }
@@ -269,7 +269,7 @@ cJSON* writeLayout(const SerializationIgnoreItemFeatures& filter, char* base, co
     cJSON* object = cJSON_CreateObject();
     if (object == nullptr)
         return nullptr;
-    for (const FieldSlot& slot : layout.slots) {
+    for (const FieldSlot& slot : layout.fields) {
         if (filter.isItemIgnored(slot.key))
             continue;
         addTableItem(object, slot.key, writeSlot(slot, base + slot.offset));

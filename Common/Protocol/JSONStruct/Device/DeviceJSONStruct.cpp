@@ -68,6 +68,8 @@ PROTOCOL_DEFINE_RECORD(DeviceUpgrade,
     PROTOCOL_FIELD(newVersion),
     PROTOCOL_FIELD(content))
 
+// The support flags marked nonZero come from devices as any number: every one but 0 is
+// true. The other booleans, support flags among them, are true only for true and 1.
 PROTOCOL_DEFINE_RECORD(DeviceResponse,
     PROTOCOL_FIELD(isLocal),
     PROTOCOL_FIELD(guid),
@@ -226,6 +228,7 @@ PROTOCOL_DEFINE_RECORD(DeviceExisted,
     PROTOCOL_FIELD(username),
     PROTOCOL_FIELD(password))
 
+// The login handle goes back as a mere yes or no: not 0 is true, the default -1 included.
 PROTOCOL_DEFINE_RECORD(DeviceExistedResult,
     PROTOCOL_FIELD(guid),
     PROTOCOL_FIELD(logined),

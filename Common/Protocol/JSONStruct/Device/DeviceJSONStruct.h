@@ -100,6 +100,9 @@ struct DeviceUpgrade : public IInboundData {
     PROTOCOL_ROOT_NAME("deviceUpgrade")
 };
 
+// A device of the list with everything it holds. Built with the service's defaults: the
+// client remote shown, security set, patrol sequences of at most 32 steps with delays of 15
+// to 30 (25 unless set), and no live streaming time (-1).
 struct DeviceResponse : public IReturnData {
     bool isLocal = false;
     std::string guid;
