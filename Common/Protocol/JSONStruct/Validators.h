@@ -58,4 +58,14 @@ bool checkNoInvalidChar(std::string& error, const std::string& key, const std::s
 // Clears `error`.
 bool checkName(std::string& error, const std::string& key, const std::string& value);
 
+// ---- Checks of fields that a request may leave out -------------------------------------
+
+// Runs `check` (a callable returning bool, which fills `error`) only when `key` was in the
+// document; a field that never came passes and leaves `error` alone.
+template <class Check>
+bool checkIfPresent(const IJSONStruct& record, const std::string& key, Check&& check)
+{
+    return record.presentKeys.count(key) == 0 || check();
+}
+
 } // namespace protocol

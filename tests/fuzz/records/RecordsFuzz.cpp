@@ -1,11 +1,12 @@
-// Arbitrary text through the three service envelopes and through every topology record's
-// reader, then out again through its writer. Nothing may crash, leak or touch memory
+// Arbitrary text through the three service envelopes and through every topology, device
+// and resource record's reader, then out again through its writer. Nothing may crash, leak or touch memory
 // it doesn't own, whatever the text.
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
 
+#include "DeviceResourceRecordsFuzz.h"
 #include "JSONStruct/HTTP/HTTPCommonJSONStruct.h"
 #include "JSONStruct/Topology/TopologyJSONStruct.h"
 #include "JSONStruct/Validators.h"
@@ -112,6 +113,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     readRequest<protocol::QueryCondition>(json);
     readRequest<protocol::RootNode>(json);
     readRequest<protocol::GatewayNode>(json);
+    readDeviceResourceRecords(json);
     cJSON_Delete(json);
     return 0;
 }
