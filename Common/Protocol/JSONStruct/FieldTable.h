@@ -23,6 +23,11 @@
 //     .writtenAsBoolean()   int32_t read as an integer, written as JSON true when not 0
 //     .readFrom("iKey")     looked up under another key than the one it is written under
 //     .presentAs("Key")     noted in presentKeys under another name than its key
+//     .int64Text()          std::string holding the decimal text of the node's number,
+//                           taken as a 64-bit integer; written as a string
+//     .readOnly()           read and kept, never written
+//     .listFromOwnNode()    list read from the node given to fromJSON itself, not from a
+//                           key, and not noted in presentKeys; written under its key
 // The table's order is the order of writing (and of reading, which no reader can tell).
 // A request record adds PROTOCOL_ROOT_NAME("root") and, where it checks its fields, its
 // own validate(). PROTOCOL_RECORD gives the record a constructor from an optional
@@ -70,13 +75,15 @@ constexpr bool kIsListOfKnownElements = [] {
 }();
 
 enum class ReadRule : uint8_t {
-    ByKind,   // the rule of the member's type
-    NonZero,  // boolean that takes any non-zero number as true
+    ByKind,     // the rule of the member's type
+    NonZero,    // boolean that takes any non-zero number as true
+    Int64Text,  // string holding the decimal text of the node's number as a 64-bit integer
 };
 
 enum class WriteRule : uint8_t {
     ByKind,   // the rule of the member's type
     Boolean,  // integer written as JSON true when not 0, false when 0
+    Never,    // read and kept, never written
 };
 
 } // namespace detail
@@ -94,6 +101,7 @@ struct FieldDecl {
     const char* presentKey = nullptr; // noted in presentKeys under this name, when set
     detail::ReadRule readRule = detail::ReadRule::ByKind;
     detail::WriteRule writeRule = detail::WriteRule::ByKind;
+    bool fromOwnNode = false;         // a list read from the record's own node
 
     constexpr FieldDecl nonZero() const
     {
@@ -121,6 +129,26 @@ struct FieldDecl {
         decl.presentKey = name;
         return decl;
     }
+    constexpr FieldDecl int64Text() const
+    {
+        static_assert(std::is_same_v<Member, std::string>, "int64Text() applies to std::string fields");
+        FieldDecl decl = *this;
+        decl.readRule = detail::ReadRule::Int64Text;
+        return decl;
+    }
+    constexpr FieldDecl readOnly() const
+    {
+        FieldDecl decl = *this;
+        decl.writeRule = detail::WriteRule::Never;
+        return decl;
+    }
+    constexpr FieldDecl listFromOwnNode() const
+    {
+        static_assert(detail::kIsList<Member>, "listFromOwnNode() applies to list fields");
+        FieldDecl decl = *this;
+        decl.fromOwnNode = true;
+        return decl;
+    }
 
     constexpr const char* lookupKey() const { return readKey != nullptr ? readKey : key; }
     constexpr const char* presentName() const { return presentKey != nullptr ? presentKey : lookupKey(); }
@@ -141,9 +169,25 @@ inline int32_t integerOf(const cJSON* node)
     return cJSON_IsTrue(node) ? 1 : static_cast<int32_t>(node->valueint);
 }
 
-inline void readValue(const cJSON* node, std::string& value, ReadRule)
+// The node's number as a 64-bit integer: the fraction dropped, saturated at both ends,
+// and NaN as 0, as no conversion may overflow.
+inline int64_t int64Of(const cJSON* node)
 {
-    if (node->valuestring != nullptr)
+    const double number = node->valuedouble;
+    if (number != number)
+        return 0;
+    if (number >= 9223372036854775807.0)
+        return INT64_MAX;
+    if (number <= -9223372036854775807.0 - 1.0)
+        return INT64_MIN;
+    return static_cast<int64_t>(number);
+}
+
+inline void readValue(const cJSON* node, std::string& value, ReadRule rule)
+{
+    if (rule == ReadRule::Int64Text)
+        value = std::to_string(int64Of(node));
+    else if (node->valuestring != nullptr)
         value.assign(node->valuestring);
     else
         value.clear();
@@ -186,8 +230,13 @@ template <class Record, class Member>
 void readField(Record& record, const cJSON* json, const FieldDecl<Record, Member>& decl)
 {
     Member& value = record.*decl.member;
-    if constexpr (kIsList<Member>)
+    if constexpr (kIsList<Member>) {
         value.clear();
+        if (decl.fromOwnNode) {
+            readValue(json, value, decl.readRule);
+            return;
+        }
+    }
     const cJSON* node = cJSON_GetObjectItem(json, decl.lookupKey());
     if (node == nullptr)
         return;
@@ -218,7 +267,7 @@ template <class Record, class Member>
 void writeField(Record& record, cJSON* object, const FieldDecl<Record, Member>& decl)
 {
     const char* key = decl.key;
-    if (record.isItemIgnored(key))
+    if (decl.writeRule == WriteRule::Never || record.isItemIgnored(key))
         return;
     Member& value = record.*decl.member;
     if constexpr (std::is_same_v<Member, int32_t>) {
@@ -293,3 +342,51 @@ public:                                                                         
 #define PROTOCOL_ROOT_NAME(name)                                                            \
 public:                                                                                     \
     const char* rootName() const override { return name; }
+
+// The same declaration split in two, for records whose header many files include: the
+// header declares the members and the two operations, and one source file holds the
+// field table, so the engine is instantiated once per record rather than in every file
+// that includes the header.
+//
+//     // Family header
+//     struct DoorControl : public IInboundData {
+//         std::string cmd;
+//         std::vector<std::string> guidList;
+//
+//         PROTOCOL_DECLARE_RECORD(DoorControl)
+//         PROTOCOL_ROOT_NAME("doorControl")
+//     };
+//
+//     // Family source
+//     PROTOCOL_DEFINE_RECORD(DoorControl,
+//         PROTOCOL_FIELD(cmd),
+//         PROTOCOL_FIELD(guidList))
+//
+// The MEMBER forms stand for PROTOCOL_MEMBER_RECORD. The source file includes FieldTable.h
+// and defines inside namespace protocol.
+#define PROTOCOL_DECLARE_FIELD_TABLE(Record)                                                \
+public:                                                                                     \
+    using Self = Record;                                                                    \
+    void fromJSON(const cJSON* json) override;                                              \
+    cJSON* toJSON() override;
+
+#define PROTOCOL_DECLARE_RECORD(Record)                                                     \
+public:                                                                                     \
+    Record() = default;                                                                     \
+    explicit Record(const cJSON* json);                                                     \
+    PROTOCOL_DECLARE_FIELD_TABLE(Record)
+
+#define PROTOCOL_DECLARE_MEMBER_RECORD(Record) PROTOCOL_DECLARE_FIELD_TABLE(Record)
+
+#define PROTOCOL_DEFINE_FIELD_TABLE(Record, ...)                                            \
+    void Record::fromJSON(const cJSON* json)                                                \
+    {                                                                                       \
+        ::protocol::detail::readRecord(*this, json, std::make_tuple(__VA_ARGS__));          \
+    }                                                                                       \
+    cJSON* Record::toJSON() { return ::protocol::detail::writeRecord(*this, std::make_tuple(__VA_ARGS__)); }
+
+#define PROTOCOL_DEFINE_RECORD(Record, ...)                                                 \
+    Record::Record(const cJSON* json) { Record::fromJSON(json); }                           \
+    PROTOCOL_DEFINE_FIELD_TABLE(Record, __VA_ARGS__)
+
+#define PROTOCOL_DEFINE_MEMBER_RECORD(Record, ...) PROTOCOL_DEFINE_FIELD_TABLE(Record, __VA_ARGS__)
