@@ -335,4 +335,17 @@ const Key* firstListKeyOf(const ExpectedRecord& record)
     return nullptr;
 }
 
+bool readsWhatItWrites(const ExpectedRecord& record)
+{
+    if (record.listFromOwnNode)
+        return false;
+    for (const Key& key : record.keys) {
+        if (key.kind == Kind::Int64Text || key.kind == Kind::ReadOnlyString)
+            return false;
+        if (!key.element.empty() && !readsWhatItWrites(expected(key.element)))
+            return false;
+    }
+    return true;
+}
+
 } // namespace recordkeys

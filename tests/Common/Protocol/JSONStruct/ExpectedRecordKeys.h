@@ -80,6 +80,9 @@ void toggleKeyCase(cJSON* json);
 const Key* firstKeyOf(const ExpectedRecord& record, Kind kind);
 // The first key that holds a list of any element; null when it has none.
 const Key* firstListKeyOf(const ExpectedRecord& record);
+// False when the record, or one nested in it, reads some value otherwise than it writes
+// it (a 64-bit text, a value never written, a list read from the node itself).
+bool readsWhatItWrites(const ExpectedRecord& record);
 // True for the three list kinds.
 bool isList(Kind kind);
 
