@@ -23,6 +23,11 @@
 //     .writtenAsBoolean()   int32_t read as an integer, written as JSON true when not 0
 //     .readFrom("iKey")     looked up under another key than the one it is written under
 //     .presentAs("Key")     noted in presentKeys under another name than its key
+//     .int64Text()          std::string holding the decimal text of the node's number,
+//                           taken as a 64-bit integer; written as a string
+//     .readOnly()           read and kept, never written
+//     .listFromOwnNode()    list read from the node given to fromJSON itself, not from a
+//                           key, and not noted in presentKeys; written under its key
 // The table's order is the order of writing (and of reading, which no reader can tell).
 // A request record adds PROTOCOL_ROOT_NAME("root") and, where it checks its fields, its
 // own validate(). PROTOCOL_RECORD gives the record a constructor from an optional
@@ -71,13 +76,15 @@ constexpr bool kIsListOfKnownElements = [] {
 }();
 
 enum class ReadRule : uint8_t {
-    ByKind,   // the rule of the member's type
-    NonZero,  // boolean that takes any non-zero number as true
+    ByKind,     // the rule of the member's type
+    NonZero,    // boolean that takes any non-zero number as true
+    Int64Text,  // string holding the decimal text of the node's number as a 64-bit integer
 };
 
 enum class WriteRule : uint8_t {
     ByKind,   // the rule of the member's type
     Boolean,  // integer written as JSON true when not 0, false when 0
+    Never,    // read and kept, never written
 };
 
 } // namespace detail
@@ -95,6 +102,7 @@ struct FieldDecl {
     const char* presentKey = nullptr; // noted in presentKeys under this name, when set
     detail::ReadRule readRule = detail::ReadRule::ByKind;
     detail::WriteRule writeRule = detail::WriteRule::ByKind;
+    bool fromOwnNode = false;         // a list read from the record's own node
 
     constexpr FieldDecl nonZero() const
     {
@@ -122,6 +130,26 @@ struct FieldDecl {
         decl.presentKey = name;
         return decl;
     }
+    constexpr FieldDecl int64Text() const
+    {
+        static_assert(std::is_same_v<Member, std::string>, "int64Text() applies to std::string fields");
+        FieldDecl decl = *this;
+        decl.readRule = detail::ReadRule::Int64Text;
+        return decl;
+    }
+    constexpr FieldDecl readOnly() const
+    {
+        FieldDecl decl = *this;
+        decl.writeRule = detail::WriteRule::Never;
+        return decl;
+    }
+    constexpr FieldDecl listFromOwnNode() const
+    {
+        static_assert(detail::kIsList<Member>, "listFromOwnNode() applies to list fields");
+        FieldDecl decl = *this;
+        decl.fromOwnNode = true;
+        return decl;
+    }
 
     constexpr const char* lookupKey() const { return readKey != nullptr ? readKey : key; }
     constexpr const char* presentName() const { return presentKey != nullptr ? presentKey : lookupKey(); }
@@ -142,9 +170,25 @@ inline int32_t integerOf(const cJSON* node)
     return cJSON_IsTrue(node) ? 1 : static_cast<int32_t>(node->valueint);
 }
 
-inline void readValue(const cJSON* node, std::string& value, ReadRule)
+// The node's number as a 64-bit integer: the fraction dropped, saturated at both ends,
+// and NaN as 0, as no conversion may overflow.
+inline int64_t int64Of(const cJSON* node)
 {
-    if (node->valuestring != nullptr)
+    const double number = node->valuedouble;
+    if (number != number)
+        return 0;
+    if (number >= 9223372036854775807.0)
+        return INT64_MAX;
+    if (number <= -9223372036854775807.0 - 1.0)
+        return INT64_MIN;
+    return static_cast<int64_t>(number);
+}
+
+inline void readValue(const cJSON* node, std::string& value, ReadRule rule)
+{
+    if (rule == ReadRule::Int64Text)
+        value = std::to_string(int64Of(node));
+    else if (node->valuestring != nullptr)
         value.assign(node->valuestring);
     else
         value.clear();
@@ -206,7 +250,7 @@ template <class Record, class Member>
 void writeField(Record& record, cJSON* object, const FieldDecl<Record, Member>& decl)
 {
     const char* key = decl.key;
-    if (record.isItemIgnored(key))
+    if (decl.writeRule == WriteRule::Never || record.isItemIgnored(key))
         return;
     Member& value = record.*decl.member;
     if constexpr (std::is_same_v<Member, int32_t>) {
@@ -253,6 +297,17 @@ void clearList(Record& record, const FieldDecl<Record, Member>& decl)
         (record.*decl.member).clear();
 }
 
+// A list read from the record's own node takes every child of it, under no key, and is
+// not noted in presentKeys.
+template <class Record, class Member>
+void readOwnNodeList(Record& record, const cJSON* json, const FieldDecl<Record, Member>& decl)
+{
+    if constexpr (kIsList<Member>) {
+        if (decl.fromOwnNode)
+            readValue(json, record.*decl.member, decl.readRule);
+    }
+}
+
 template <size_t I, class Record, class Table>
 void readFieldAt(Record& record, const cJSON* node, const Table& table)
 {
@@ -273,13 +328,16 @@ void readRecordInOneWalk(Record& record, const cJSON* json, const Table& table, 
     using Reader = void (*)(Record&, const cJSON*, const Table&);
     static constexpr Reader kReaders[] = {&readFieldAt<I, Record, Table>...};
 
+    static const bool kOwnNode[] = {std::get<I>(table).fromOwnNode...};
+
     (clearList(record, std::get<I>(table)), ...);
+    (readOwnNodeList(record, json, std::get<I>(table)), ...);
     bool taken[kCount] = {};
     for (const cJSON* member = json->child; member != nullptr; member = member->next) {
         if (member->string == nullptr)
             continue;
         for (int field = kIndex.find(member->string); field >= 0; field = kIndex.next(field)) {
-            if (taken[field])
+            if (taken[field] || kOwnNode[field])
                 continue;
             taken[field] = true;
             kReaders[field](record, member, table);
@@ -425,6 +483,7 @@ struct FieldSlot {
     ReadRule readRule;
     WriteRule writeRule;
     const RecordOps* ops;                 // for Record and RecordList
+    bool fromOwnNode;                     // a list read from the record's own node
 };
 
 struct RecordLayout {
@@ -480,7 +539,7 @@ FieldSlot slotOf(const Record& sample, const FieldDecl<Record, Member>& decl)
 {
     const auto offset = reinterpret_cast<const char*>(&(sample.*decl.member)) - reinterpret_cast<const char*>(&sample);
     return FieldSlot{decl.key, decl.lookupKey(), decl.presentName(), static_cast<size_t>(offset),
-                     kindOf<Member>(), decl.readRule, decl.writeRule, opsOf<Member>()};
+                     kindOf<Member>(), decl.readRule, decl.writeRule, opsOf<Member>(), decl.fromOwnNode};
 }
 
 // A plain parameter pack rather than a tuple: a tuple of a hundred fields costs the
@@ -495,26 +554,35 @@ RecordLayout makeLayout(const Decl&... decls)
 } // namespace detail
 } // namespace protocol
 
+// The header declares a record with PROTOCOL_DECLARE_RECORD (or, for a record that only
+// lives inside another, PROTOCOL_DECLARE_MEMBER_RECORD); its one source file gives the
+// table with PROTOCOL_DEFINE_RECORD (or PROTOCOL_DEFINE_MEMBER_RECORD), inside namespace
+// protocol. The source file includes FieldTable.h.
+#define PROTOCOL_DECLARE_FIELD_TABLE(Record)                                                \
+public:                                                                                     \
+    void fromJSON(const cJSON* json) override;                                              \
+    cJSON* toJSON() override;
+
 #define PROTOCOL_DECLARE_RECORD(Record)                                                     \
 public:                                                                                     \
     Record() = default;                                                                     \
     explicit Record(const cJSON* json);                                                     \
-    void fromJSON(const cJSON* json) override;                                              \
-    cJSON* toJSON() override;
+    PROTOCOL_DECLARE_FIELD_TABLE(Record)
 
-#define PROTOCOL_DEFINE_RECORD(Record, ...)                                                 \
+#define PROTOCOL_DECLARE_MEMBER_RECORD(Record) PROTOCOL_DECLARE_FIELD_TABLE(Record)
+
+#define PROTOCOL_DEFINE_FIELD_TABLE(Record, ...)                                            \
     namespace {                                                                             \
     struct Record##FieldTable {                                                             \
         using Self = Record;                                                                \
         static const ::protocol::detail::RecordLayout& layout()                             \
         {                                                                                   \
             static const ::protocol::detail::RecordLayout kLayout =                         \
-                ::protocol::detail::makeLayout<Record>(__VA_ARGS__);                            \
+                ::protocol::detail::makeLayout<Record>(__VA_ARGS__);                        \
             return kLayout;                                                                 \
         }                                                                                   \
     };                                                                                      \
     }                                                                                       \
-    Record::Record(const cJSON* json) { Record::fromJSON(json); }                          \
     void Record::fromJSON(const cJSON* json)                                                \
     {                                                                                       \
         ::protocol::detail::readLayout(*this, reinterpret_cast<char*>(this), Record##FieldTable::layout(), json); \
@@ -523,3 +591,9 @@ public:                                                                         
     {                                                                                       \
         return ::protocol::detail::writeLayout(*this, reinterpret_cast<char*>(this), Record##FieldTable::layout()); \
     }
+
+#define PROTOCOL_DEFINE_RECORD(Record, ...)                                                 \
+    Record::Record(const cJSON* json) { Record::fromJSON(json); }                           \
+    PROTOCOL_DEFINE_FIELD_TABLE(Record, __VA_ARGS__)
+
+#define PROTOCOL_DEFINE_MEMBER_RECORD(Record, ...) PROTOCOL_DEFINE_FIELD_TABLE(Record, __VA_ARGS__)

@@ -249,15 +249,19 @@ void readLayout(IJSONStruct& record, char* base, const RecordLayout& layout, con
         else if (slot.kind == FieldKind::RecordList)
             slot.ops->clearList(base + slot.offset);
     }
+    for (const FieldSlot& slot : layout.fields) {
+        if (slot.fromOwnNode)
+            readSlot(slot, base + slot.offset, json);
+    }
     record.presentKeys.reserve(layout.fields.size());
     TakenFields taken(layout.fields.size());
     for (const cJSON* member = json->child; member != nullptr; member = member->next) {
         if (member->string == nullptr)
             continue;
         for (int field = layout.index.find(member->string); field >= 0; field = layout.index.next(field)) {
-            if (!taken.take(static_cast<size_t>(field)))
-                continue;
             const FieldSlot& slot = layout.fields[static_cast<size_t>(field)];
+            if (slot.fromOwnNode || !taken.take(static_cast<size_t>(field)))
+                continue;
             readSlot(slot, base + slot.offset, member);
             record.presentKeys.insert(slot.presentName);
         }
@@ -270,7 +274,7 @@ cJSON* writeLayout(const SerializationIgnoreItemFeatures& filter, char* base, co
     if (object == nullptr)
         return nullptr;
     for (const FieldSlot& slot : layout.fields) {
-        if (filter.isItemIgnored(slot.key))
+        if (slot.writeRule == WriteRule::Never || filter.isItemIgnored(slot.key))
             continue;
         addTableItem(object, slot.key, writeSlot(slot, base + slot.offset));
     }

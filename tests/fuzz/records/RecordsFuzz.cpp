@@ -1,5 +1,5 @@
-// Arbitrary text through the three service envelopes and through every topology, device
-// and resource record's reader, then out again through its writer. Nothing may crash, leak or touch memory
+// Arbitrary text through the three service envelopes and through every record's
+// reader, then out again through its writer. Nothing may crash, leak or touch memory
 // it doesn't own, whatever the text.
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +11,7 @@
 #include "JSONStruct/Topology/TopologyJSONStruct.h"
 #include "JSONStruct/Validators.h"
 #include "Plinth/Log.h"
+#include "RecordsFuzzSupport.h"
 
 namespace {
 
@@ -114,6 +115,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     readRequest<protocol::RootNode>(json);
     readRequest<protocol::GatewayNode>(json);
     readDeviceResourceRecords(json);
+    recordsfuzz::fuzzPassThroughControlStatusServiceRecords(json);
     cJSON_Delete(json);
     return 0;
 }
