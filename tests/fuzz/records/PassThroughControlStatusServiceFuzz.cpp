@@ -35,14 +35,14 @@ void fuzzPassThroughControlStatusServiceRecords(const cJSON* json)
                 VideoDeviceStatus, DeviceStatus, AlarmOutputStatusRsp, IntercomStatusRsp, PtzSelfCheckResponseData,
                 DeviceStatusResponse, DoorS, HostS, CardReaderS, AlarmOutputS, AlarmInputS, EventS, DoorSafeS,
                 DefenceS, GateHostNumberS, GateAllS, GateRayS, GateDeviceS, AlarmOutputStatusRspData, DeviceStatusData,
-                DoorStatusRspData, IntercomStatusRspData, PartitionStatusRspData, RelayStatusRspData,
+                DoorStatusRspData, IntercomStatusRspData, LaneControllerInfoData, PartitionStatusRspData, RelayStatusRspData,
                 ZoneStatusRspData>(json);
     exerciseAll<SmsAddInfo, SmsResult, SmsResponse, SmsGuidList, SmsModificationReq, SmsResponseData,
                 SmsResponseListData, SmsResultListData, CloudP2PConfigs, CloudP2PAccountResult, CloudP2PAccountInfo,
                 CloudP2PAccountResultData, CloudP2PConfigsData, FarlinkSMSPort, FarlinkPreview, SessionIDData,
                 PushStream, FarlinkVoice, FarlinkFindRecFileParam, RecFileInfo, FarlinkRecFindResult, StreamSever,
                 PlayBackbyTime, PlayBackbyName, FarlinkPlayBackParam, FarlinkPlayBackOperateParam, FarlinkSMSPortData,
-                AppTask, AppInfo, AppList, AppManage, SorrelApp, SorrelAppListData, CommodityAppIdData, AppVersion,
+                AppTask, AppInfo, AppList, AppManage, SorrelApp, SorrelAppListData, CommodityAppIdData, CommodityIdData, AppVersion,
                 AppVersionListData, AppListData>(json);
 }
 

@@ -34,6 +34,10 @@ PROTOCOL_DEFINE_RECORD(CommodityAppIdData,
     PROTOCOL_FIELD(auditStatus).readOnly(),
     PROTOCOL_FIELD(packStatus).readOnly())
 
+PROTOCOL_DEFINE_RECORD(CommodityIdData,
+    PROTOCOL_FIELD(commodityId),
+    PROTOCOL_FIELD(deviceList))
+
 PROTOCOL_DEFINE_RECORD(AppVersion,
     PROTOCOL_FIELD(commodityAppPackageId),
     PROTOCOL_FIELD(appPackageUuid),

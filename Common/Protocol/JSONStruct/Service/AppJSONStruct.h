@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "JSONStruct/Device/DeviceJSONStruct.h"
 #include "JSONStruct/FieldTable.h"
 
 namespace protocol {
@@ -59,6 +60,13 @@ struct CommodityAppIdData : public IReturnData {
     std::string packStatus;               // read, never written
 
     PROTOCOL_DECLARE_RECORD(CommodityAppIdData)
+};
+
+struct CommodityIdData : public IReturnData {
+    std::string commodityId;
+    std::vector<KOPLDevice> deviceList;
+
+    PROTOCOL_DECLARE_RECORD(CommodityIdData)
 };
 
 struct AppVersion : public IReturnData {

@@ -186,6 +186,9 @@ PROTOCOL_DEFINE_RECORD(DoorStatusRspData,
 PROTOCOL_DEFINE_RECORD(IntercomStatusRspData,
     PROTOCOL_FIELD(IntercomStatusRsp))
 
+PROTOCOL_DEFINE_RECORD(LaneControllerInfoData,
+    PROTOCOL_FIELD(laneControllerInfo))
+
 PROTOCOL_DEFINE_RECORD(PartitionStatusRspData,
     PROTOCOL_FIELD(partitionStatusRsp))
 

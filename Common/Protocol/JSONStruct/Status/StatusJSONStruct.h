@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "JSONStruct/FieldTable.h"
+#include "JSONStruct/Resource/ResourceJSONStruct.h"
 
 namespace protocol {
 
@@ -310,6 +311,12 @@ struct IntercomStatusRspData : public IReturnData {
     protocol::IntercomStatusRsp IntercomStatusRsp;
 
     PROTOCOL_DECLARE_RECORD(IntercomStatusRspData)
+};
+
+struct LaneControllerInfoData : public IReturnData {
+    LaneControllerInfo laneControllerInfo;
+
+    PROTOCOL_DECLARE_RECORD(LaneControllerInfoData)
 };
 
 struct PartitionStatusRspData : public IReturnData {

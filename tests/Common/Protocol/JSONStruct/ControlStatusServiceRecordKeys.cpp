@@ -124,6 +124,7 @@ const std::vector<ExpectedRecord>& controlStatusServiceRecordKeys()
         {"SorrelAppListData", nullptr, {list("appList", "SorrelApp")}, true},
         {"CommodityAppIdData", nullptr,
             {r("commodityAppId"), s("enableFlag"), readOnly("auditStatus"), readOnly("packStatus")}},
+        {"CommodityIdData", nullptr, {s("commodityId"), list("deviceList", "KOPLDevice")}},
         {"AppVersion", nullptr,
             {i("commodityAppPackageId"), s("appPackageUuid"), i("merchantId"), r("commodityAppId"), s("version"),
              s("koplLowestVersion"), s("ossFileUrl"), s("appId")}},
@@ -140,6 +141,7 @@ const std::vector<ExpectedRecord>& controlStatusServiceRecordKeys()
         {"FarlinkSMSPortData", nullptr, {nested("farlinkSMSPort", "FarlinkSMSPort")}},
         {"GuardResultListData", nullptr, {list("guardResultList", "GuardResult")}},
         {"IntercomStatusRspData", nullptr, {nested("IntercomStatusRsp", "IntercomStatusRsp")}},
+        {"LaneControllerInfoData", nullptr, {nested("laneControllerInfo", "LaneControllerInfo")}},
         {"PartitionControlRspData", nullptr, {nested("partitionControlRsp", "PartitionControlRsp")}},
         {"PartitionStatusRspData", nullptr, {nested("partitionStatusRsp", "PartitionStatusRsp")}},
         {"PresetInfoListData", nullptr, {list("presetInfoList", "PresetInfo")}},
@@ -152,6 +154,18 @@ const std::vector<ExpectedRecord>& controlStatusServiceRecordKeys()
         {"WiperControlResultListData", nullptr, {list("wiperControlResultList", "WiperControlResult")}},
         {"ZoneControlRspData", nullptr, {nested("zoneControlRsp", "ZoneControlRsp")}},
         {"ZoneStatusRspData", nullptr, {nested("zoneStatusRsp", "ZoneStatusRsp")}},
+    };
+    return table;
+}
+
+// Records of the device and resource families that these records hold, so that a
+// filled document of a holder can be made; their own keys are held by the device and
+// resource tests.
+const std::vector<ExpectedRecord>& heldRecordKeys()
+{
+    static const std::vector<ExpectedRecord> table = {
+        {"KOPLDevice", nullptr, {s("deviceModel"), s("deviceName"), s("deviceSerial")}},
+        {"LaneControllerInfo", nullptr, {s("guid"), s("name"), i("no"), b("online")}},
     };
     return table;
 }

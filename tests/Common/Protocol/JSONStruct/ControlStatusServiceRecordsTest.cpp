@@ -26,11 +26,11 @@
     X(CloudP2PAccountResult) X(CloudP2PAccountInfo) X(FarlinkSMSPort) X(FarlinkPreview) X(SessionIDData)              \
     X(PushStream) X(FarlinkVoice) X(FarlinkFindRecFileParam) X(RecFileInfo) X(FarlinkRecFindResult) X(StreamSever)    \
     X(PlayBackbyTime) X(PlayBackbyName) X(FarlinkPlayBackParam) X(FarlinkPlayBackOperateParam) X(AppTask) X(AppInfo)  \
-    X(AppList) X(AppManage) X(SorrelApp) X(SorrelAppListData) X(CommodityAppIdData) X(AppVersion)                     \
+    X(AppList) X(AppManage) X(SorrelApp) X(SorrelAppListData) X(CommodityAppIdData) X(CommodityIdData) X(AppVersion)                     \
     X(AppVersionListData)                                                                                             \
     X(AlarmOutputStatusRspData) X(AppListData) X(CloudP2PAccountResultData) X(CloudP2PConfigsData)                    \
     X(DeviceGuardStateListData) X(DeviceStatusData) X(DoorControlRspData) X(DoorStatusRspData) X(FarlinkSMSPortData)  \
-    X(GuardResultListData) X(IntercomStatusRspData) X(PartitionControlRspData) X(PartitionStatusRspData)              \
+    X(GuardResultListData) X(IntercomStatusRspData) X(LaneControllerInfoData) X(PartitionControlRspData) X(PartitionStatusRspData)              \
     X(PresetInfoListData) X(PresetResultListData) X(RelayControlRspData) X(RelayStatusRspData) X(SmsResponseData)     \
     X(SmsResponseListData) X(SmsResultListData) X(WiperControlResultListData) X(ZoneControlRspData)                   \
     X(ZoneStatusRspData)

@@ -255,7 +255,7 @@ Key presentAs(Key key, const std::string& presentName)
 
 const ExpectedRecord* findExpected(const std::string& name)
 {
-    for (const auto* table : {&passThroughRecordKeys(), &controlStatusServiceRecordKeys()}) {
+    for (const auto* table : {&passThroughRecordKeys(), &controlStatusServiceRecordKeys(), &heldRecordKeys()}) {
         for (const ExpectedRecord& record : *table) {
             if (record.name == name)
                 return &record;

@@ -60,6 +60,7 @@ Key presentAs(Key key, const std::string& presentName);
 // The tables, one per family group.
 const std::vector<ExpectedRecord>& passThroughRecordKeys();
 const std::vector<ExpectedRecord>& controlStatusServiceRecordKeys();
+const std::vector<ExpectedRecord>& heldRecordKeys();
 
 // The row of `name` in any table; null when no table has it.
 const ExpectedRecord* findExpected(const std::string& name);
