@@ -153,4 +153,58 @@ bool checkName(std::string& error, const std::string& key, const std::string& va
     return false;
 }
 
+// Checks shared by the command and status requests.
+
+namespace {
+
+template <class List>
+bool listSentAndNotEmpty(std::string& error, const IJSONStruct& record, const std::string& key, const List& list)
+{
+    return checkFieldExists(error, record, key, true) && checkListNotEmpty(error, key, list);
+}
+
+template <class List>
+bool commandAndTargets(std::string& error, const IJSONStruct& record, const std::string& cmdKey,
+                       const std::string& cmd, const std::set<std::string>& allowed, const std::string& listKey,
+                       const List& list)
+{
+    return checkFieldExists(error, record, cmdKey, true) && checkStringNotEmpty(error, cmdKey, cmd)
+        && checkEnumValue(error, cmdKey, cmd, allowed) && listSentAndNotEmpty(error, record, listKey, list);
+}
+
+} // namespace
+
+bool checkListSentAndNotEmpty(std::string& error, const IJSONStruct& record, const std::string& key,
+                              const std::vector<std::string>& list)
+{
+    return listSentAndNotEmpty(error, record, key, list);
+}
+
+bool checkListSentAndNotEmpty(std::string& error, const IJSONStruct& record, const std::string& key,
+                              const std::vector<int32_t>& list)
+{
+    return listSentAndNotEmpty(error, record, key, list);
+}
+
+bool checkCommand(std::string& error, const IJSONStruct& record, const std::string& cmdKey, const std::string& cmd,
+                  const std::set<std::string>& allowed, const std::string& listKey,
+                  const std::vector<std::string>& list)
+{
+    return commandAndTargets(error, record, cmdKey, cmd, allowed, listKey, list);
+}
+
+bool checkCommand(std::string& error, const IJSONStruct& record, const std::string& cmdKey, const std::string& cmd,
+                  const std::set<std::string>& allowed, const std::string& listKey, const std::vector<int32_t>& list)
+{
+    return commandAndTargets(error, record, cmdKey, cmd, allowed, listKey, list);
+}
+
+bool checkFormatIfSent(std::string& error, const IJSONStruct& record, const std::string& key,
+                       const std::string& value, const std::string& pattern)
+{
+    if (!checkFieldExists(error, record, key, false))
+        return true;
+    return checkFormat(error, key, value, pattern);
+}
+
 } // namespace protocol

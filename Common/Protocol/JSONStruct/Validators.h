@@ -58,4 +58,34 @@ bool checkNoInvalidChar(std::string& error, const std::string& key, const std::s
 // Clears `error`.
 bool checkName(std::string& error, const std::string& key, const std::string& value);
 
+// ---- Checks of fields that a request may leave out -------------------------------------
+
+// Runs `check` (a callable returning bool, which fills `error`) only when `key` was in the
+// document; a field that never came passes and leaves `error` alone.
+template <class Check>
+bool checkIfPresent(const IJSONStruct& record, const std::string& key, Check&& check)
+{
+    return record.presentKeys.count(key) == 0 || check();
+}
+
+// Checks shared by the command and status requests.
+
+// A list that must have been sent and must hold an element: "<key> field not exist!",
+// then "<key> can't be empty!". Clears `error`.
+bool checkListSentAndNotEmpty(std::string& error, const IJSONStruct& record, const std::string& key,
+                              const std::vector<std::string>& list);
+bool checkListSentAndNotEmpty(std::string& error, const IJSONStruct& record, const std::string& key,
+                              const std::vector<int32_t>& list);
+// A command to a list of targets, checked in this order: `cmdKey` was sent, `cmd` isn't
+// empty, `cmd` is one of `allowed` (compared exactly), then checkListSentAndNotEmpty of
+// the targets. Clears `error`.
+bool checkCommand(std::string& error, const IJSONStruct& record, const std::string& cmdKey, const std::string& cmd,
+                  const std::set<std::string>& allowed, const std::string& listKey,
+                  const std::vector<std::string>& list);
+bool checkCommand(std::string& error, const IJSONStruct& record, const std::string& cmdKey, const std::string& cmd,
+                  const std::set<std::string>& allowed, const std::string& listKey, const std::vector<int32_t>& list);
+// checkFormat of `value` when `key` was sent; true when it wasn't. Clears `error`.
+bool checkFormatIfSent(std::string& error, const IJSONStruct& record, const std::string& key,
+                       const std::string& value, const std::string& pattern);
+
 } // namespace protocol

@@ -1,4 +1,4 @@
-// Arbitrary text through the three service envelopes and through every topology record's
+// Arbitrary text through the three service envelopes and through every record's
 // reader, then out again through its writer. Nothing may crash, leak or touch memory
 // it doesn't own, whatever the text.
 #include <cstddef>
@@ -6,10 +6,12 @@
 #include <memory>
 #include <string>
 
+#include "DeviceResourceRecordsFuzz.h"
 #include "JSONStruct/HTTP/HTTPCommonJSONStruct.h"
 #include "JSONStruct/Topology/TopologyJSONStruct.h"
 #include "JSONStruct/Validators.h"
 #include "Plinth/Log.h"
+#include "RecordsFuzzSupport.h"
 
 namespace {
 
@@ -112,6 +114,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     readRequest<protocol::QueryCondition>(json);
     readRequest<protocol::RootNode>(json);
     readRequest<protocol::GatewayNode>(json);
+    readDeviceResourceRecords(json);
+    recordsfuzz::fuzzPassThroughControlStatusServiceRecords(json);
     cJSON_Delete(json);
     return 0;
 }

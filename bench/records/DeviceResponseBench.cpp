@@ -1,0 +1,154 @@
+// A DeviceResponseListData of 1,000 device answers, each with a few channels, alarm inputs
+// and ports: read (cJSON_Parse and fromJSON) against cJSON_Parse alone, and written (toJSON
+// and cJSON_Print) against cJSON_Print of the same tree alone.
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+#include "JSONStruct/Device/DeviceJSONStruct.h"
+
+namespace {
+
+constexpr int kDevices = 1000;
+constexpr int kChannelsPerDevice = 4;
+constexpr int kAlarmInputsPerDevice = 2;
+constexpr int kPortsPerDevice = 4;
+
+protocol::DeviceResponseListData makeDevices()
+{
+    protocol::DeviceResponseListData list;
+    list.deviceCount = kDevices;
+    list.code = "0-0";
+    list.deviceResponseList.resize(kDevices);
+    int n = 0;
+    for (protocol::DeviceResponse& device : list.deviceResponseList) {
+        ++n;
+        const std::string id = std::to_string(n);
+        device.isLocal = true;
+        device.guid = "device-guid-" + id;
+        device.deviceId = n;
+        device.alias = "Entrance camera " + id;
+        device.deviceCategory = 1 + n % 4;
+        device.deviceType = 20000 + n % 50;
+        device.deviceTypeName = "IPC";
+        device.addMode = 0;
+        device.address = "10.2." + std::to_string(n / 250) + "." + std::to_string(n % 250);
+        device.port = 8000;
+        device.httpPort = 80;
+        device.username = "admin";
+        device.serialNo = "SN" + std::to_string(500000000 + n);
+        device.isOnline = n % 5 != 0;
+        device.loginIp = device.address;
+        device.loginPort = 8000;
+        device.startChanNo = 1;
+        device.startDChanNo = 33;
+        device.softwareVersion = "V5.7.3 build 220112";
+        device.supportWeb = true;
+        device.support = 0x3F;
+        device.support1 = 0x11;
+        device.componentId = "component-" + id;
+        device.supportPtz = n % 3 == 0;
+        device.videoLevel = {1, 2, 3};
+        device.smsName = "Media server";
+        device.channelList.resize(kChannelsPerDevice);
+        int c = 0;
+        for (protocol::Channel& channel : device.channelList) {
+            ++c;
+            channel.type = 1;
+            channel.guid = device.guid + "-channel-" + std::to_string(c);
+            channel.resourceGuid = channel.guid + "-resource";
+            channel.name = "Camera " + std::to_string(c);
+            channel.no = c;
+            channel.enable = true;
+            channel.online = device.isOnline;
+            channel.channelStatus = c % 2;
+        }
+        device.alarmInputList.resize(kAlarmInputsPerDevice);
+        int a = 0;
+        for (protocol::AlarmInput& input : device.alarmInputList) {
+            ++a;
+            input.type = 2;
+            input.guid = device.guid + "-alarm-in-" + std::to_string(a);
+            input.name = "Alarm input " + std::to_string(a);
+            input.no = a;
+            input.online = true;
+        }
+        device.portList.resize(kPortsPerDevice);
+        int p = 0;
+        for (protocol::SwitchPort& port : device.portList) {
+            ++p;
+            port.guid = device.guid + "-port-" + std::to_string(p);
+            port.name = "eth" + std::to_string(p);
+            port.no = p;
+            port.type = 1;
+        }
+    }
+    return list;
+}
+
+const std::string& devicesText()
+{
+    static const std::string text = [] {
+        protocol::DeviceResponseListData list = makeDevices();
+        cJSON* json = list.toJSON();
+        char* printed = cJSON_Print(json);
+        std::string result = printed;
+        cJSON_free(printed);
+        cJSON_Delete(json);
+        return result;
+    }();
+    return text;
+}
+
+void BM_DeviceResponseParseOnly(benchmark::State& state)
+{
+    const std::string& text = devicesText();
+    for (auto _ : state) {
+        cJSON* json = cJSON_Parse(text.c_str());
+        benchmark::DoNotOptimize(json);
+        cJSON_Delete(json);
+    }
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * text.size()));
+}
+
+void BM_DeviceResponseParseAndRead(benchmark::State& state)
+{
+    const std::string& text = devicesText();
+    for (auto _ : state) {
+        cJSON* json = cJSON_Parse(text.c_str());
+        protocol::DeviceResponseListData list(json);
+        benchmark::DoNotOptimize(list.deviceResponseList.data());
+        cJSON_Delete(json);
+    }
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * text.size()));
+}
+
+void BM_DeviceResponsePrintOnly(benchmark::State& state)
+{
+    cJSON* json = cJSON_Parse(devicesText().c_str());
+    for (auto _ : state) {
+        char* printed = cJSON_Print(json);
+        benchmark::DoNotOptimize(printed);
+        cJSON_free(printed);
+    }
+    cJSON_Delete(json);
+}
+
+void BM_DeviceResponseWriteAndPrint(benchmark::State& state)
+{
+    protocol::DeviceResponseListData list = makeDevices();
+    for (auto _ : state) {
+        cJSON* json = list.toJSON();
+        char* printed = cJSON_Print(json);
+        benchmark::DoNotOptimize(printed);
+        cJSON_free(printed);
+        cJSON_Delete(json);
+    }
+}
+
+} // namespace
+
+BENCHMARK(BM_DeviceResponseParseOnly)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_DeviceResponseParseAndRead)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_DeviceResponsePrintOnly)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_DeviceResponseWriteAndPrint)->Unit(benchmark::kMillisecond);
