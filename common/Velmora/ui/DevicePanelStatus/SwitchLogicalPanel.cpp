@@ -290,7 +290,9 @@ void CSwitchLogicalPanel::renderPanelPixmap()
                 painter.setPen(Qt::NoPen);
                 painter.setBrush(kCellColor);
                 painter.drawRect(QRect(x, y, cellWidth, rowHeight));
-                portCells[static_cast<unsigned>(cell.portId)] = QRect(x, y, cellWidth, rowHeight);
+                // The port answers the mouse over its own column, so that a cell wider than
+                // the carried-over column width never claims its neighbour's place.
+                portCells[static_cast<unsigned>(cell.portId)] = QRect(x, y, w, rowHeight);
                 bool up;
                 if (directionFromCells)
                     up = cell.direction == "up";

@@ -199,9 +199,10 @@ TEST_F(PortToolTipTest, ShrunkLogicalPanelTellsThePortTheMagnifierShows)
     const QPixmap& image = A::panelPixmap(&panel);
     ASSERT_GT(image.width(), frame->width());
     const double ratio = static_cast<double>(frame->width()) / image.width();
-    // The middle of port 40's cell in the image, mapped onto the shrunk drawing.
+    // The middle of port 40's column in the image, mapped onto the shrunk drawing. After the
+    // leading border every column keeps the border's width.
     const int border = A::logicalSizes(&panel)[120][2];
-    const double cellMiddle = 26 + border + 39 * A::cellWidth(&panel) + A::cellWidth(&panel) / 2.0;
+    const double cellMiddle = 26 + border + 39 * border + border / 2.0;
     const int x = frame->x() + static_cast<int>(cellMiddle * ratio);
     const int y = frame->y() + frame->height() / 2;
     const QString shown = hover(&panel, QPoint(x, y));
