@@ -6,6 +6,7 @@
 #include <string>
 
 #include "JSONStruct/Device/DeviceJSONStruct.h"
+#include "RecordListBench.h"
 
 namespace {
 
@@ -88,62 +89,23 @@ protocol::DeviceResponseListData makeDevices()
 
 const std::string& devicesText()
 {
-    static const std::string text = [] {
-        protocol::DeviceResponseListData list = makeDevices();
-        cJSON* json = list.toJSON();
-        char* printed = cJSON_Print(json);
-        std::string result = printed;
-        cJSON_free(printed);
-        cJSON_Delete(json);
-        return result;
-    }();
+    static const std::string text = recordbench::printedText(makeDevices());
     return text;
 }
 
-void BM_DeviceResponseParseOnly(benchmark::State& state)
-{
-    const std::string& text = devicesText();
-    for (auto _ : state) {
-        cJSON* json = cJSON_Parse(text.c_str());
-        benchmark::DoNotOptimize(json);
-        cJSON_Delete(json);
-    }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * text.size()));
-}
+void BM_DeviceResponseParseOnly(benchmark::State& state) { recordbench::parseOnly(state, devicesText()); }
 
 void BM_DeviceResponseParseAndRead(benchmark::State& state)
 {
-    const std::string& text = devicesText();
-    for (auto _ : state) {
-        cJSON* json = cJSON_Parse(text.c_str());
-        protocol::DeviceResponseListData list(json);
-        benchmark::DoNotOptimize(list.deviceResponseList.data());
-        cJSON_Delete(json);
-    }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * text.size()));
+    recordbench::parseAndRead<protocol::DeviceResponseListData>(state, devicesText());
 }
 
-void BM_DeviceResponsePrintOnly(benchmark::State& state)
-{
-    cJSON* json = cJSON_Parse(devicesText().c_str());
-    for (auto _ : state) {
-        char* printed = cJSON_Print(json);
-        benchmark::DoNotOptimize(printed);
-        cJSON_free(printed);
-    }
-    cJSON_Delete(json);
-}
+void BM_DeviceResponsePrintOnly(benchmark::State& state) { recordbench::printOnly(state, devicesText()); }
 
 void BM_DeviceResponseWriteAndPrint(benchmark::State& state)
 {
     protocol::DeviceResponseListData list = makeDevices();
-    for (auto _ : state) {
-        cJSON* json = list.toJSON();
-        char* printed = cJSON_Print(json);
-        benchmark::DoNotOptimize(printed);
-        cJSON_free(printed);
-        cJSON_Delete(json);
-    }
+    recordbench::writeAndPrint(state, list);
 }
 
 } // namespace

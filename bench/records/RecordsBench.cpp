@@ -8,6 +8,7 @@
 #include <string>
 
 #include "JSONStruct/Topology/TopologyJSONStruct.h"
+#include "RecordListBench.h"
 
 namespace {
 
@@ -74,62 +75,23 @@ protocol::DeviceNodeListData makeNodes()
 
 const std::string& nodesText()
 {
-    static const std::string text = [] {
-        protocol::DeviceNodeListData list = makeNodes();
-        cJSON* json = list.toJSON();
-        char* printed = cJSON_Print(json);
-        std::string result = printed;
-        cJSON_free(printed);
-        cJSON_Delete(json);
-        return result;
-    }();
+    static const std::string text = recordbench::printedText(makeNodes());
     return text;
 }
 
-void BM_ParseOnly(benchmark::State& state)
-{
-    const std::string& text = nodesText();
-    for (auto _ : state) {
-        cJSON* json = cJSON_Parse(text.c_str());
-        benchmark::DoNotOptimize(json);
-        cJSON_Delete(json);
-    }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * text.size()));
-}
+void BM_ParseOnly(benchmark::State& state) { recordbench::parseOnly(state, nodesText()); }
 
 void BM_ParseAndReadRecords(benchmark::State& state)
 {
-    const std::string& text = nodesText();
-    for (auto _ : state) {
-        cJSON* json = cJSON_Parse(text.c_str());
-        protocol::DeviceNodeListData list(json);
-        benchmark::DoNotOptimize(list.deviceNodeList.data());
-        cJSON_Delete(json);
-    }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * text.size()));
+    recordbench::parseAndRead<protocol::DeviceNodeListData>(state, nodesText());
 }
 
-void BM_PrintOnly(benchmark::State& state)
-{
-    cJSON* json = cJSON_Parse(nodesText().c_str());
-    for (auto _ : state) {
-        char* printed = cJSON_Print(json);
-        benchmark::DoNotOptimize(printed);
-        cJSON_free(printed);
-    }
-    cJSON_Delete(json);
-}
+void BM_PrintOnly(benchmark::State& state) { recordbench::printOnly(state, nodesText()); }
 
 void BM_WriteRecordsAndPrint(benchmark::State& state)
 {
     protocol::DeviceNodeListData list = makeNodes();
-    for (auto _ : state) {
-        cJSON* json = list.toJSON();
-        char* printed = cJSON_Print(json);
-        benchmark::DoNotOptimize(printed);
-        cJSON_free(printed);
-        cJSON_Delete(json);
-    }
+    recordbench::writeAndPrint(state, list);
 }
 
 // The tree that toJSON builds, written out with cJSON's calls.
