@@ -20,9 +20,9 @@ CChassisPanel::CChassisPanel(const PanelLayout& layout, QWidget* parent) : CPane
 
 void CChassisPanel::initPixmaps()
 {
-    pixmaps[0] = new QPixmap(loadArt(QString::fromStdString(resourcePath(m_layout.framePath(kAnyMode)))));
+    pixmaps[0] = new QPixmap(sharedArt(QString::fromStdString(resourcePath(m_layout.framePath(kAnyMode)))));
     for (const Image& image : m_layout.images->images)
-        pixmaps[static_cast<unsigned>(image.id)] = new QPixmap(loadArt(QString::fromStdString(resourcePath(image.path))));
+        pixmaps[static_cast<unsigned>(image.id)] = new QPixmap(sharedArt(QString::fromStdString(resourcePath(image.path))));
 }
 
 void CChassisPanel::initPortPositions()

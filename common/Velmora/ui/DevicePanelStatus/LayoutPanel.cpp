@@ -53,19 +53,14 @@ void CLayoutPanel::applyLegends()
 
 void CLayoutPanel::initPixmaps()
 {
-    pixmaps[0] = new QPixmap(loadArt(QString::fromStdString(resourcePath(m_layout.framePath(m_mode)))));
-    const bool scaled = !m_layout.scaledPorts.isEmpty();
-    const QSize scaledSize(m_layout.scaledPorts.width, m_layout.scaledPorts.height);
-    for (const Image& image : m_layout.images->images) {
-        auto* pixmap = new QPixmap(loadArt(QString::fromStdString(resourcePath(image.path))));
-        if (scaled) {
-            // The size is in device-independent pixels; a dense image keeps its density.
-            const qreal ratio = pixmap->devicePixelRatio();
-            *pixmap = pixmap->scaled(scaledSize * ratio, Qt::IgnoreAspectRatio, Qt::FastTransformation);
-            pixmap->setDevicePixelRatio(ratio);
-        }
-        pixmaps[static_cast<unsigned>(image.id)] = pixmap;
-    }
+    // The images are shared with every other panel that draws them (sharedArt).
+    pixmaps[0] = new QPixmap(sharedArt(QString::fromStdString(resourcePath(m_layout.framePath(m_mode)))));
+    const QSize scaledSize = m_layout.scaledPorts.isEmpty()
+                                 ? QSize()
+                                 : QSize(m_layout.scaledPorts.width, m_layout.scaledPorts.height);
+    for (const Image& image : m_layout.images->images)
+        pixmaps[static_cast<unsigned>(image.id)] =
+            new QPixmap(sharedArt(QString::fromStdString(resourcePath(image.path)), scaledSize));
     if (m_layout.logo.shown) {
         auto* renderer = new QSvgRenderer(static_cast<QObject*>(nullptr));
         renderer->load(QString::fromStdString(resourcePath(kLogoImage)));

@@ -28,6 +28,19 @@ QString artPath(const QString& path, int ratio);
 // without a twin falls back to the 1x image.
 QPixmap loadArt(const QString& path);
 QPixmap loadArt(const QString& path, int ratio);
+// The module's own art (paths under ":/Tarvex7300/Velmora/Images/"), decoded once per
+// process and density and then shared: every panel after the first of its model draws the
+// same pixmaps (copies share the data until one is changed) instead of decoding them again.
+// The art is compiled into the module and cannot change while it is loaded, so nothing kept
+// here goes stale; any other path is loaded anew at every call, as loadArt() does. A density
+// change (artRatio()) finds other entries. GUI thread only, like QPixmap itself; the entries
+// go when the application object does.
+QPixmap sharedArt(const QString& path);
+// The same art scaled to `size` in device-independent pixels, keeping its density.
+QPixmap sharedArt(const QString& path, const QSize& size);
+// How many pixmaps are kept, and dropping them all (the next call decodes again).
+int sharedArtCount();
+void dropSharedArt();
 // A pixmap's size in device-independent pixels.
 inline QSize logicalSize(const QPixmap& pixmap)
 {

@@ -31,9 +31,9 @@ CPanelStatusBase::CPanelStatusBase(QWidget* parent)
     ui->setupUi(this);
     // The form names the 1x legend icons; a dense screen gets their twins.
     if (artRatio() > 1) {
-        ui->label->setPixmap(loadArt(kElectricalLegendImage));
-        ui->optionalIconLabel->setPixmap(loadArt(kOpticalLegendImage));
-        ui->fiberOptionalIconLabel->setPixmap(loadArt(kFiberOpticalLegendImage));
+        ui->label->setPixmap(sharedArt(kElectricalLegendImage));
+        ui->optionalIconLabel->setPixmap(sharedArt(kOpticalLegendImage));
+        ui->fiberOptionalIconLabel->setPixmap(sharedArt(kFiberOpticalLegendImage));
     }
 }
 

@@ -94,7 +94,7 @@ void CSwitchLogicalPanel::initPixmaps()
         for (int deviceCategory : set.categories) {
             std::map<int, QPixmap>& images = logicalPixmaps[deviceCategory];
             for (const layouts::Image& image : set.images)
-                images[image.id] = loadArt(QString::fromStdString(layouts::resourcePath(image.path)));
+                images[image.id] = sharedArt(QString::fromStdString(layouts::resourcePath(image.path)));
             // Sizes in device-independent pixels, whatever density the images were drawn for.
             std::map<int, int>& sizes = logicalSizes[deviceCategory];
             sizes[kPortWidth] = logicalSize(images[0]).width();
