@@ -6,6 +6,7 @@
 #include <QProgressBar>
 #include <QString>
 #include <QStringList>
+#include <benchmark/benchmark.h>
 
 #include "TarvexGUIToolkit/BaseDialog.h"
 #include "TarvexGUIToolkit/File.h"
@@ -97,6 +98,14 @@ void buildBareForms()
     // As in the dialog's destructor: the page goes first, then the tree's model, then the
     // dialog with the rest of its children.
     delete page;
+}
+
+void registerQtFormsBenchmark()
+{
+    benchmark::RegisterBenchmark("QtForms", [](benchmark::State& state) {
+        for (auto _ : state)
+            buildBareForms();
+    })->Unit(benchmark::kMillisecond)->UseRealTime();
 }
 
 } // namespace velmora::bench

@@ -11,4 +11,8 @@ namespace velmora::bench {
 // destructor do. Needs a QApplication and the module's resources (velmora::initResources).
 void buildBareForms();
 
+// Registers the benchmark "QtForms": buildBareForms() in a loop, in milliseconds of wall
+// clock (the CPU time beside it).
+void registerQtFormsBenchmark();
+
 } // namespace velmora::bench

@@ -217,10 +217,7 @@ int main(int argc, char** argv)
         }
     })->Unit(benchmark::kMillisecond)->UseRealTime();
 
-    benchmark::RegisterBenchmark("QtForms", [](benchmark::State& state) {
-        for (auto _ : state)
-            velmora::bench::buildBareForms();
-    })->Unit(benchmark::kMillisecond)->UseRealTime();
+    velmora::bench::registerQtFormsBenchmark();
 
     velmora::bench::MedianReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);

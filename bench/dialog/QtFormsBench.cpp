@@ -23,10 +23,7 @@ int main(int argc, char** argv)
     velmora::initResources();
     velmora::bench::buildBareForms();
 
-    benchmark::RegisterBenchmark("QtForms", [](benchmark::State& state) {
-        for (auto _ : state)
-            velmora::bench::buildBareForms();
-    })->Unit(benchmark::kMillisecond)->UseRealTime();
+    velmora::bench::registerQtFormsBenchmark();
 
     velmora::bench::MedianReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
