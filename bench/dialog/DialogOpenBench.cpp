@@ -4,7 +4,7 @@
 // connection, and against Qt's own work on the same forms without any device (BareForms.h).
 // Prints the ratio of opening to round trips (goal 1.3 at most) and the module's own share
 // of an opening, (opening - round trips - Qt's forms) / opening, in wall-clock and in CPU
-// time (goal 30 % at most), from rounds of the three run back to back (PartTimes.h). All
+// time (goal 30 % at most), from rounds of the three run back to back (ShareTimes.h). All
 // openings measured are warm: one opening comes first, to learn the requests. Run with
 // --benchmark_repetitions=N for medians of the benchmarks themselves.
 //
@@ -23,7 +23,7 @@
 
 #include "BareForms.h"
 #include "MedianReporter.h"
-#include "PartTimes.h"
+#include "ShareTimes.h"
 #include "SwitchDeviceStatusWidget.h"
 #include "support/EmulatorProcess.h"
 
@@ -241,15 +241,15 @@ int main(int argc, char** argv)
     const char* roundsText = std::getenv("VELMORA_BENCH_ROUNDS");
     const int rounds = roundsText ? std::atoi(roundsText) : kDefaultShareRounds;
     if (rounds > 0) {
-        velmora::bench::PartTimes parts;
+        velmora::bench::ShareTimes parts;
         for (int round = 0; round < rounds; ++round) {
-            parts.measure(velmora::bench::PartTimes::Opening,
+            parts.measure(velmora::bench::ShareTimes::Opening,
                           [&] { velmora::CSwitchDeviceStatusWidget dialog(deviceId, capability, nullptr); });
-            parts.measure(velmora::bench::PartTimes::RoundTrips, [&] {
+            parts.measure(velmora::bench::ShareTimes::RoundTrips, [&] {
                 for (const Replay& replay : replays)
                     sendBare(replay);
             });
-            parts.measure(velmora::bench::PartTimes::QtForms, [] { velmora::bench::buildBareForms(); });
+            parts.measure(velmora::bench::ShareTimes::QtForms, [] { velmora::bench::buildBareForms(); });
         }
         parts.print(rounds);
     }

@@ -13,7 +13,7 @@
 
 namespace velmora::bench {
 
-class PartTimes {
+class ShareTimes {
 public:
     enum Part { Opening, RoundTrips, QtForms, PartCount };
 
