@@ -1,6 +1,8 @@
 #include "SwitchDeviceStatusWidget.h"
 
 #include <QAbstractItemView>
+#include <QLabel>
+#include <QMargins>
 #include <QModelIndex>
 #include <new>
 
@@ -261,7 +263,15 @@ bool CSwitchDeviceStatusWidget::lookUpDevice()
 
 void CSwitchDeviceStatusWidget::showDeviceName(const QString& name)
 {
-    m_pUi->deviceName->setText(tr("Device") + " " + name);
+    QLabel* label = m_pUi->deviceName;
+    const QString text = tr("Device") + " " + name;
+    label->setText(text);
+    // The label's width is fixed: a name too long for it is cut, so the whole line is
+    // given in the tooltip then.
+    label->ensurePolished();
+    const QMargins margins = label->contentsMargins();
+    const int room = label->maximumWidth() - margins.left() - margins.right();
+    label->setToolTip(label->fontMetrics().horizontalAdvance(text) > room ? text : QString());
 }
 
 bool CSwitchDeviceStatusWidget::ensureModelAndFactory()

@@ -14,6 +14,7 @@ inline const char* dialogTestFleetJson()
     return R"({"name": "dialog-tests", "devices": [
   {"model": "QN-1062", "name": "poe-switch"},
   {"model": "QN-1066", "name": "plain-switch"},
+  {"model": "QN-1066", "name": "distribution switch of the north wing, third floor, rack 2"},
   {"model": "QN-1180", "name": "poe-router"},
   {"model": "QN-1181", "name": "plain-router"},
   {"model": "QN-1098", "name": "bridge"},

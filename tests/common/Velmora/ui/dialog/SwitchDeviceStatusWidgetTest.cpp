@@ -266,6 +266,24 @@ TEST_F(SwitchDeviceStatusWidgetTest, OpensASwitchOnItsFirstRow)
     EXPECT_EQ(lines[2], kStatusRequest);
 }
 
+TEST_F(SwitchDeviceStatusWidgetTest, ANameTooLongForItsLabelIsGivenWholeInTheTooltip)
+{
+    const std::string longName = "distribution switch of the north wing, third floor, rack 2";
+    auto longDialog = open(longName);
+    const DialogParts longParts = partsOf(*longDialog);
+    const QString line = QString::fromStdString("Device " + longName);
+    EXPECT_EQ(longParts.deviceName->text(), line);
+    EXPECT_EQ(longParts.deviceName->maximumWidth(), 180);
+    EXPECT_GT(longParts.deviceName->fontMetrics().horizontalAdvance(line), 180);
+    EXPECT_EQ(longParts.deviceName->toolTip(), line);
+
+    // A name that fits has no tooltip.
+    auto shortDialog = open("poe-switch");
+    const DialogParts shortParts = partsOf(*shortDialog);
+    EXPECT_EQ(shortParts.deviceName->text(), "Device poe-switch");
+    EXPECT_TRUE(shortParts.deviceName->toolTip().isEmpty());
+}
+
 TEST_F(SwitchDeviceStatusWidgetTest, AnUnknownDeviceLeavesATitledEmptyDialog)
 {
     LogCapture log;
