@@ -763,6 +763,25 @@
     </message>
 </context>
 <context>
+    <name>velmora::CFiberPanelStatusWidget</name>
+    <message>
+        <source>Slot %1</source>
+        <translation>Slot %1</translation>
+    </message>
+    <message>
+        <source>Management card</source>
+        <translation>Management card</translation>
+    </message>
+    <message>
+        <source>Empty slot</source>
+        <translation>Empty slot</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>velmora::CPOEPortStatusModel</name>
     <message>
         <source>PortName</source>

@@ -1,10 +1,13 @@
 #include "FiberPanelStatusWidget.h"
 
+#include <QHelpEvent>
 #include <QHideEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPixmap>
+#include <QStringList>
 #include <QTimer>
+#include <QToolTip>
 #include <new>
 #include <set>
 #include <string>
@@ -43,6 +46,19 @@ constexpr int kColumnWidths[CPanelSlotInfoModel::COLUMN_COUNT] = {80, 120, 120, 
 QString utf8(const std::string& text)
 {
     return QString::fromUtf8(text.c_str());
+}
+
+// The table row of one reported card.
+PanelSlotInfo slotRow(const Quillon::FiberConvertSlot& slot)
+{
+    PanelSlotInfo row;
+    row.strSlotNo = QString::number(slot.slotId);
+    row.strReceivingCardIP = utf8(slot.receivingCardIP);
+    row.strReceiveCardSerialNumber = utf8(slot.receiveCardSerialNumber);
+    row.strTransmitterIP = utf8(slot.transmitterIP);
+    row.strTransmitterSerialNumber = utf8(slot.transmitterSerialNumber);
+    row.strSenderName = utf8(slot.senderName);
+    return row;
 }
 
 } // namespace
@@ -165,16 +181,8 @@ std::vector<PanelSlotInfo> CFiberPanelStatusWidget::makePanelSlotInfo(const Quil
 {
     std::vector<PanelSlotInfo> rows;
     rows.reserve(list.slotList.size());
-    for (const Quillon::FiberConvertSlot& slot : list.slotList) {
-        PanelSlotInfo row;
-        row.strSlotNo = QString::number(slot.slotId);
-        row.strReceivingCardIP = utf8(slot.receivingCardIP);
-        row.strReceiveCardSerialNumber = utf8(slot.receiveCardSerialNumber);
-        row.strTransmitterIP = utf8(slot.transmitterIP);
-        row.strTransmitterSerialNumber = utf8(slot.transmitterSerialNumber);
-        row.strSenderName = utf8(slot.senderName);
-        rows.push_back(row);
-    }
+    for (const Quillon::FiberConvertSlot& slot : list.slotList)
+        rows.push_back(slotRow(slot));
     return rows;
 }
 
@@ -185,20 +193,24 @@ void CFiberPanelStatusWidget::drawImage(QPainter& painter, unsigned id, const QP
         painter.drawPixmap(at, *found->second);
 }
 
+QPoint CFiberPanelStatusWidget::crateOrigin() const
+{
+    // The frame image centred at its natural size in m_pPanelPanelFrame.
+    const auto frame = m_pixmaps.find(FRAME_IMAGE);
+    const QSize frameSize = frame != m_pixmaps.end() && frame->second ? logicalSize(*frame->second) : QSize(0, 0);
+    if (!ui)
+        return QPoint();
+    const QPoint centred((ui->m_pPanelPanelFrame->width() - frameSize.width()) / 2,
+                         (ui->m_pPanelPanelFrame->height() - frameSize.height()) / 2);
+    return ui->m_pPanelFrame->mapTo(this, ui->m_pPanelPanelFrame->mapTo(ui->m_pPanelFrame, centred));
+}
+
 void CFiberPanelStatusWidget::paintEvent(QPaintEvent* event)
 {
     if (m_pixmaps.empty())
         return;
 
-    // The frame image centred at its natural size in m_pPanelPanelFrame.
-    const auto frame = m_pixmaps.find(FRAME_IMAGE);
-    const QSize frameSize = frame != m_pixmaps.end() && frame->second ? logicalSize(*frame->second) : QSize(0, 0);
-    QPoint origin;
-    if (ui) {
-        const QPoint centred((ui->m_pPanelPanelFrame->width() - frameSize.width()) / 2,
-                             (ui->m_pPanelPanelFrame->height() - frameSize.height()) / 2);
-        origin = ui->m_pPanelFrame->mapTo(this, ui->m_pPanelPanelFrame->mapTo(ui->m_pPanelFrame, centred));
-    }
+    const QPoint origin = crateOrigin();
 
     QPainter painter(this);
     drawImage(painter, FRAME_IMAGE, origin);
@@ -228,6 +240,75 @@ void CFiberPanelStatusWidget::paintEvent(QPaintEvent* event)
     painter.end();
 
     QWidget::paintEvent(event);
+}
+
+bool CFiberPanelStatusWidget::slotAt(const QPoint& pos, int& slot, QRect& area) const
+{
+    // Cards and blanking plates have one size; a slot without a position of its own (a
+    // number outside the crate) is drawn at the frame's corner and, drawn later, wins there.
+    const auto card = m_pixmaps.find(INSERTED_SLOT_IMAGE);
+    if (card == m_pixmaps.end() || !card->second || card->second->isNull())
+        return false;
+    const QSize size = logicalSize(*card->second);
+    const QPoint origin = crateOrigin();
+    bool found = false;
+    for (const auto& [number, position] : m_slotPositions) {
+        const QRect drawn(origin + position, size);
+        if (drawn.contains(pos)) {
+            slot = number;
+            area = drawn;
+            found = true;
+        }
+    }
+    return found;
+}
+
+QString CFiberPanelStatusWidget::slotToolTip(int slot) const
+{
+    QStringList lines;
+    lines << tr("Slot %1").arg(slot);
+    const Quillon::FiberConvertSlot* reported = nullptr;
+    for (const Quillon::FiberConvertSlot& entry : m_slotList.slotList) {
+        if (entry.slotId == slot) {
+            reported = &entry;
+            break;
+        }
+    }
+    if (!reported) {
+        lines << (slot == kManagementCardSlot ? tr("Management card") : tr("Empty slot"));
+        return lines.join(QLatin1Char('\n'));
+    }
+    // The card's facts under the table's own column titles; an absent value shows as "--".
+    const PanelSlotInfo row = slotRow(*reported);
+    const QString values[] = {row.strReceivingCardIP, row.strReceiveCardSerialNumber, row.strTransmitterIP,
+                              row.strTransmitterSerialNumber, row.strSenderName};
+    int column = 1;
+    for (const QString& value : values) {
+        const QString title = m_pSlotModel ? m_pSlotModel->headerData(column, Qt::Horizontal).toString() : QString();
+        lines << tr("%1: %2").arg(title, value.isEmpty() ? QStringLiteral("--") : value);
+        ++column;
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+bool CFiberPanelStatusWidget::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return CDeviceStatusOptionBase::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    int slot = 0;
+    QRect area;
+    if (!slotAt(help->pos(), slot, area)) {
+        QToolTip::hideText();
+        event->ignore();
+        return true;
+    }
+    // Plain text: a sender's name must never be read as markup.
+    QToolTip::showText(help->globalPos(),
+                       QStringLiteral("<p style='white-space:pre'>%1</p>")
+                           .arg(slotToolTip(slot).toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br/>"))),
+                       this, area);
+    return true;
 }
 
 } // namespace velmora

@@ -4,6 +4,7 @@
 // reported cards in a table. Ports on the cards are always drawn unconnected: the chassis
 // reports no port state here. Refreshed every 10 seconds while shown.
 #include <QPoint>
+#include <QString>
 #include <map>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "PanelSlotInfoModel.h"
 #include "Quillon/SwitchRecords.h"
 
+class QEvent;
 class QHideEvent;
 class QPainter;
 class QPaintEvent;
@@ -48,6 +50,8 @@ protected:
     void showStatus() override;
     void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    // Tooltips over the crate: the slot under the mouse and the card it holds.
+    bool event(QEvent* event) override;
 
 protected slots:
     void onRefreshSlotInformation();
@@ -59,6 +63,13 @@ private:
     void showPanelInfoPrivate();
     // Draws image `id` with its top-left corner at `at`; nothing when the image is missing.
     void drawImage(QPainter& painter, unsigned id, const QPoint& at) const;
+    // Where the frame image's top-left corner is drawn on the page.
+    QPoint crateOrigin() const;
+    // The slot whose card or blanking plate is drawn under `pos` (the one drawn last where
+    // two overlap), with the drawn rectangle; false over no slot.
+    bool slotAt(const QPoint& pos, int& slot, QRect& area) const;
+    // The tooltip of `slot`: its number and the card the chassis reports in it.
+    QString slotToolTip(int slot) const;
 
     Ui::UiFiberPanelStatusWidget* ui;
     CPanelSlotInfoModel* m_pSlotModel;

@@ -2,10 +2,13 @@
 // slot 1, the reported cards in a table, the legends of the port kinds, and its timer.
 #include <QApplication>
 #include <QFrame>
+#include <QHelpEvent>
 #include <QImage>
 #include <QLabel>
 #include <QTableView>
+#include <QTest>
 #include <QTimer>
+#include <QToolTip>
 #include <gtest/gtest.h>
 
 #include <map>
@@ -71,6 +74,28 @@ int mismatches(const QImage& shot, const QImage& image, const QPoint& at, const 
         }
     }
     return count;
+}
+
+// What stands in the tooltip before a hover, so that a hover over no slot can't pass on
+// the text of the one before.
+const QString kBefore = QStringLiteral("before");
+
+// Sends the tooltip request a resting mouse gives at `at` and returns the text shown.
+QString hover(CFiberPanelStatusWidget& page, QPoint at)
+{
+    QToolTip::showText(page.mapToGlobal(at), kBefore, &page);
+    QHelpEvent help(QEvent::ToolTip, at, page.mapToGlobal(at));
+    QApplication::sendEvent(&page, &help);
+    return QToolTip::text();
+}
+
+// The tooltip as shown: plain lines in one paragraph that keeps blanks.
+QString shown(const QStringList& lines)
+{
+    QStringList escaped;
+    for (const QString& line : lines)
+        escaped << line.toHtmlEscaped();
+    return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(escaped.join(QStringLiteral("<br/>")));
 }
 
 class FiberPanelStatusWidgetTest : public BridgeWanFiberPageTest {
@@ -518,5 +543,60 @@ TEST_F(FiberPanelStatusWidgetTest, WithoutImagesNothingIsPainted)
     const QRgb background = page.palette().color(QPalette::Window).rgb();
     EXPECT_EQ(shot.pixel(origin + QPoint(30, 40)) | 0xff000000, background);
     EXPECT_EQ(shot.pixel(origin + QPoint(300, 60)) | 0xff000000, background);
+    page.hide();
+}
+
+TEST_F(FiberPanelStatusWidgetTest, HoveringASlotNamesItAndTheCardItHolds)
+{
+    CFiberPanelStatusWidget page(nullptr);
+    fleet().open(page, "crate");
+    showStatus(page);
+    const Quillon::FiberConvertSlotList list = reportedSlots();
+    ASSERT_FALSE(list.slotList.empty());
+    paint(page);
+    const QPoint middle(m_card.width() / 2, m_card.height() / 2);
+
+    // A reported card: its facts under the table's column titles (the keys here).
+    Quillon::FiberConvertSlot card = list.slotList.front();
+    EXPECT_EQ(hover(page, slotCorner(page, card.slotId) + middle),
+              shown({QStringLiteral("Slot %1").arg(card.slotId),
+                     "ReceivingCardIP: " + QString::fromStdString(card.receivingCardIP),
+                     "ReceiveCardSerialNumber: " + QString::fromStdString(card.receiveCardSerialNumber),
+                     "TransmitterIP: " + QString::fromStdString(card.transmitterIP),
+                     "TransmitterSerialNumber: " + QString::fromStdString(card.transmitterSerialNumber),
+                     "SenderName: " + QString::fromStdString(card.senderName)}));
+
+    // Slot 1 unreported holds the management card; another unreported slot is empty.
+    std::set<int> reported;
+    for (const Quillon::FiberConvertSlot& slot : list.slotList)
+        reported.insert(slot.slotId);
+    ASSERT_EQ(reported.count(1), 0u);
+    EXPECT_EQ(hover(page, slotCorner(page, 1) + middle), shown({"Slot 1", "Management card"}));
+    int empty = 2;
+    while (reported.count(empty) != 0)
+        ++empty;
+    ASSERT_LE(empty, kSlotCount);
+    EXPECT_EQ(hover(page, slotCorner(page, empty) + middle),
+              shown({QStringLiteral("Slot %1").arg(empty), "Empty slot"}));
+
+    // Away from the slots the tooltip before is not replaced, and it goes.
+    EXPECT_EQ(hover(page, QPoint(2, 2)), kBefore);
+    EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text().isEmpty(); }, 2000));
+    page.hide();
+}
+
+TEST_F(FiberPanelStatusWidgetTest, ASlotTooltipShowsAbsentValuesAsDashesAndNamesAsText)
+{
+    CFiberPanelStatusWidget page(nullptr);
+    fleet().open(page, "crate");
+    Quillon::FiberConvertSlot card;
+    card.slotId = 5;
+    card.senderName = "<b>Gate & yard</b>";
+    CFiberPanelStatusWidgetTestAccess::slotList(page).slotList = {card};
+    paint(page);
+    const QPoint middle(m_card.width() / 2, m_card.height() / 2);
+    EXPECT_EQ(hover(page, slotCorner(page, 5) + middle),
+              shown({"Slot 5", "ReceivingCardIP: --", "ReceiveCardSerialNumber: --", "TransmitterIP: --",
+                     "TransmitterSerialNumber: --", "SenderName: <b>Gate & yard</b>"}));
     page.hide();
 }
