@@ -7,15 +7,17 @@
 
 #include <cstdint>
 #include <string>
-#include <unordered_set>
 #include <vector>
+
+#include "JSONStruct/PresentKeys.h"
 
 namespace protocol {
 
 class IJSONStruct {
 public:
-    // Keys that fromJSON found in the object, spelt as the record declares them.
-    std::unordered_set<std::string> presentKeys;
+    // Keys that fromJSON found in the object, spelt as the record declares them: a set of
+    // std::string in all but name (see PresentKeys.h).
+    PresentKeys presentKeys;
 
     // Reads the fields present in `json`; a null pointer changes nothing. Never fails.
     virtual void fromJSON(const cJSON* json) = 0;
