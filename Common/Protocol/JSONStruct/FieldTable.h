@@ -247,10 +247,10 @@ std::enable_if_t<kIsRecord<T>, cJSON*> makeItem(T& value)
 }
 
 template <class Record, class Member>
-void writeField(Record& record, cJSON* object, const FieldDecl<Record, Member>& decl)
+void writeField(Record& record, cJSON* object, const FieldDecl<Record, Member>& decl, bool filtering)
 {
     const char* key = decl.key;
-    if (decl.writeRule == WriteRule::Never || record.isItemIgnored(key))
+    if (decl.writeRule == WriteRule::Never || (filtering && record.isItemIgnored(key)))
         return;
     Member& value = record.*decl.member;
     if constexpr (std::is_same_v<Member, int32_t>) {
@@ -366,7 +366,8 @@ cJSON* writeRecord(Record& record, const Table& table)
     cJSON* object = cJSON_CreateObject();
     if (object == nullptr)
         return nullptr;
-    std::apply([&](const auto&... decl) { (writeField(record, object, decl), ...); }, table);
+    const bool filtering = record.filtersSomeKey();
+    std::apply([&](const auto&... decl) { (writeField(record, object, decl, filtering), ...); }, table);
     return object;
 }
 

@@ -75,11 +75,14 @@ size_t foldedHash(const char* name)
 
 bool equalFolded(const char* left, const char* right)
 {
-    for (; *left != '\0' && *right != '\0'; ++left, ++right) {
-        if (foldCase(*left) != foldCase(*right))
+    for (;; ++left, ++right) {
+        if (*left == *right) {
+            if (*left == '\0')
+                return true;
+        } else if (foldCase(*left) != foldCase(*right)) {
             return false;
+        }
     }
-    return *left == *right;
 }
 
 } // namespace
@@ -286,8 +289,9 @@ cJSON* writeLayout(const SerializationIgnoreItemFeatures& filter, char* base, co
     cJSON* object = cJSON_CreateObject();
     if (object == nullptr)
         return nullptr;
+    const bool filtering = filter.filtersSomeKey();
     for (const FieldSlot& slot : layout.fields) {
-        if (slot.writeRule == WriteRule::Never || filter.isItemIgnored(slot.key))
+        if (slot.writeRule == WriteRule::Never || (filtering && filter.isItemIgnored(slot.key)))
             continue;
         addTableItem(object, slot.key, writeSlot(slot, base + slot.offset));
     }

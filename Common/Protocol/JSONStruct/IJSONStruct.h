@@ -45,6 +45,9 @@ public:
 
     // True when `key` is not to be written. A null or empty key (array elements) always passes.
     bool isItemIgnored(const char* key) const;
+    // False when isItemIgnored passes every key, as it does in every record of the client;
+    // writers then skip the test per field.
+    bool filtersSomeKey() const { return ignoreMode == 1 || (ignoreMode == 0 && !ignoreItems.empty()); }
 
     void addBoolItem(cJSON* object, const char* key, bool value) const;
     void addStringItem(cJSON* object, const char* key, const char* value) const;
