@@ -10,14 +10,8 @@ PresentKeys::PresentKeys(const PresentKeys& other)
 }
 
 PresentKeys::PresentKeys(PresentKeys&& other) noexcept
-    : m_keys(std::move(other.m_keys)), m_names(other.m_names),
-      m_state(other.m_state.load(std::memory_order_relaxed))
 {
-    for (size_t word = 0; word < kWords; ++word)
-        m_bits[word] = other.m_bits[word];
-    other.m_keys.clear();
-    other.resetBits();
-    other.m_state.store(kSettled, std::memory_order_relaxed);
+    takeFrom(other);
 }
 
 PresentKeys& PresentKeys::operator=(const PresentKeys& other)
@@ -29,48 +23,36 @@ PresentKeys& PresentKeys::operator=(const PresentKeys& other)
 
 PresentKeys& PresentKeys::operator=(PresentKeys&& other) noexcept
 {
-    if (this != &other) {
-        m_keys = std::move(other.m_keys);
-        m_names = other.m_names;
-        for (size_t word = 0; word < kWords; ++word)
-            m_bits[word] = other.m_bits[word];
-        m_state.store(other.m_state.load(std::memory_order_relaxed), std::memory_order_relaxed);
-        other.m_keys.clear();
-        other.resetBits();
-        other.m_state.store(kSettled, std::memory_order_relaxed);
-    }
+    if (this != &other)
+        takeFrom(other);
     return *this;
 }
 
 PresentKeys& PresentKeys::operator=(const Set& keys)
 {
     m_keys = keys;
-    resetBits();
-    m_state.store(kSettled, std::memory_order_relaxed);
+    dropBits();
     return *this;
 }
 
 PresentKeys& PresentKeys::operator=(Set&& keys) noexcept
 {
     m_keys = std::move(keys);
-    resetBits();
-    m_state.store(kSettled, std::memory_order_relaxed);
+    dropBits();
     return *this;
 }
 
 PresentKeys& PresentKeys::operator=(std::initializer_list<value_type> keys)
 {
     m_keys = keys;
-    resetBits();
-    m_state.store(kSettled, std::memory_order_relaxed);
+    dropBits();
     return *this;
 }
 
 void PresentKeys::clear() noexcept
 {
     m_keys.clear();
-    resetBits();
-    m_state.store(kSettled, std::memory_order_relaxed);
+    dropBits();
 }
 
 void PresentKeys::swap(PresentKeys& other) noexcept
@@ -137,8 +119,7 @@ void PresentKeys::copyFrom(const PresentKeys& other)
         if (state == kSettled) {
             m_keys = other.m_keys;
             m_names = other.m_names;
-            resetBits();
-            m_state.store(kSettled, std::memory_order_relaxed);
+            dropBits();
             return;
         }
         if (state == kPending) {
@@ -163,6 +144,23 @@ void PresentKeys::copyFrom(const PresentKeys& other)
         }
         std::this_thread::yield();
     }
+}
+
+void PresentKeys::takeFrom(PresentKeys& other) noexcept
+{
+    m_keys = std::move(other.m_keys);
+    m_names = other.m_names;
+    for (size_t word = 0; word < kWords; ++word)
+        m_bits[word] = other.m_bits[word];
+    m_state.store(other.m_state.load(std::memory_order_relaxed), std::memory_order_relaxed);
+    other.m_keys.clear();
+    other.dropBits();
+}
+
+void PresentKeys::dropBits() noexcept
+{
+    resetBits();
+    m_state.store(kSettled, std::memory_order_relaxed);
 }
 
 void PresentKeys::resetBits() noexcept

@@ -148,6 +148,10 @@ private:
     }
     // Takes the other's keys, pending bits and table as they stand.
     void copyFrom(const PresentKeys& other);
+    // The same from a record that is being moved from, which is left empty.
+    void takeFrom(PresentKeys& other) noexcept;
+    // Forgets the pending bits: m_keys is now the whole set.
+    void dropBits() noexcept;
     void resetBits() noexcept;
 
     mutable Set m_keys;
