@@ -583,11 +583,12 @@ public:                                                                         
     namespace {                                                                             \
     struct Record##FieldTable {                                                             \
         using Self = Record;                                                                \
-        /* Never destroyed: presentKeys of a record may point into it until the end. */  \
+        /* Never destroyed: presentKeys of a record may point into it until the end. */ \
         static const ::protocol::detail::RecordLayout& layout()                             \
         {                                                                                   \
             static const ::protocol::detail::RecordLayout& kLayout =                        \
-                *new ::protocol::detail::RecordLayout(::protocol::detail::makeLayout<Record>(__VA_ARGS__)); \
+                *new ::protocol::detail::RecordLayout(                                      \
+                    ::protocol::detail::makeLayout<Record>(__VA_ARGS__));                   \
             return kLayout;                                                                 \
         }                                                                                   \
     };                                                                                      \
