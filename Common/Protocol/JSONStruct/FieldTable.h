@@ -247,10 +247,10 @@ std::enable_if_t<kIsRecord<T>, cJSON*> makeItem(T& value)
 }
 
 template <class Record, class Member>
-void writeField(Record& record, cJSON* object, const FieldDecl<Record, Member>& decl)
+void writeField(Record& record, cJSON* object, const FieldDecl<Record, Member>& decl, bool filtering)
 {
     const char* key = decl.key;
-    if (decl.writeRule == WriteRule::Never || record.isItemIgnored(key))
+    if (decl.writeRule == WriteRule::Never || (filtering && record.isItemIgnored(key)))
         return;
     Member& value = record.*decl.member;
     if constexpr (std::is_same_v<Member, int32_t>) {
@@ -280,12 +280,16 @@ public:
     KeyIndex(const char* const* keys, int count);
     // The first field whose lookup key equals `name` but for case, or -1.
     int find(const char* name) const;
+    // The same, trying the field `expected` before the hash: members mostly come in the
+    // order of the table, as the records write them.
+    int find(const char* name, int expected) const;
     // The next field with the same lookup key as `field`, or -1.
     int next(int field) const { return m_next[static_cast<size_t>(field)]; }
 
 private:
     std::vector<const char*> m_keys;
     std::vector<int> m_next;
+    std::vector<int> m_first;             // of each field, the first field with its key
     std::vector<int> m_slots;             // open addressing over the first field of each key
     size_t m_mask = 0;
 };
@@ -313,7 +317,6 @@ void readFieldAt(Record& record, const cJSON* node, const Table& table)
 {
     const auto& decl = std::get<I>(table);
     readValue(node, record.*decl.member, decl.readRule);
-    record.presentKeys.insert(decl.presentName());
 }
 
 // Every field takes the first member of the object whose name equals its lookup key but
@@ -324,6 +327,7 @@ void readRecordInOneWalk(Record& record, const cJSON* json, const Table& table, 
 {
     constexpr int kCount = static_cast<int>(sizeof...(I));
     static const char* const kKeys[] = {std::get<I>(table).lookupKey()...};
+    static const char* const kPresentNames[] = {std::get<I>(table).presentName()...};
     static const KeyIndex kIndex(kKeys, kCount);
     using Reader = void (*)(Record&, const cJSON*, const Table&);
     static constexpr Reader kReaders[] = {&readFieldAt<I, Record, Table>...};
@@ -333,14 +337,17 @@ void readRecordInOneWalk(Record& record, const cJSON* json, const Table& table, 
     (clearList(record, std::get<I>(table)), ...);
     (readOwnNodeList(record, json, std::get<I>(table)), ...);
     bool taken[kCount] = {};
+    int expected = 0;
     for (const cJSON* member = json->child; member != nullptr; member = member->next) {
         if (member->string == nullptr)
             continue;
-        for (int field = kIndex.find(member->string); field >= 0; field = kIndex.next(field)) {
+        for (int field = kIndex.find(member->string, expected); field >= 0; field = kIndex.next(field)) {
+            expected = field + 1;
             if (taken[field] || kOwnNode[field])
                 continue;
             taken[field] = true;
             kReaders[field](record, member, table);
+            record.presentKeys.noteFound(kPresentNames, static_cast<size_t>(field));
         }
     }
 }
@@ -350,7 +357,6 @@ void readRecord(Record& record, const cJSON* json, const Table& table)
 {
     if (json == nullptr)
         return;
-    record.presentKeys.reserve(std::tuple_size_v<Table>);
     readRecordInOneWalk(record, json, table, std::make_index_sequence<std::tuple_size_v<Table>>());
 }
 
@@ -360,7 +366,8 @@ cJSON* writeRecord(Record& record, const Table& table)
     cJSON* object = cJSON_CreateObject();
     if (object == nullptr)
         return nullptr;
-    std::apply([&](const auto&... decl) { (writeField(record, object, decl), ...); }, table);
+    const bool filtering = record.filtersSomeKey();
+    std::apply([&](const auto&... decl) { (writeField(record, object, decl, filtering), ...); }, table);
     return object;
 }
 
@@ -491,6 +498,7 @@ struct RecordLayout {
 
     std::vector<FieldSlot> fields;   // not "slots": Qt defines that word away
     KeyIndex index;
+    std::vector<const char*> presentNames;  // of each field, for presentKeys
 };
 
 // The engine: `base` is the record's own address, `record` and `filter` the same record.
@@ -575,10 +583,12 @@ public:                                                                         
     namespace {                                                                             \
     struct Record##FieldTable {                                                             \
         using Self = Record;                                                                \
+        /* Never destroyed: presentKeys of a record may point into it until the end. */ \
         static const ::protocol::detail::RecordLayout& layout()                             \
         {                                                                                   \
-            static const ::protocol::detail::RecordLayout kLayout =                         \
-                ::protocol::detail::makeLayout<Record>(__VA_ARGS__);                        \
+            static const ::protocol::detail::RecordLayout& kLayout =                        \
+                *new ::protocol::detail::RecordLayout(                                      \
+                    ::protocol::detail::makeLayout<Record>(__VA_ARGS__));                   \
             return kLayout;                                                                 \
         }                                                                                   \
     };                                                                                      \

@@ -75,17 +75,20 @@ size_t foldedHash(const char* name)
 
 bool equalFolded(const char* left, const char* right)
 {
-    for (; *left != '\0' && *right != '\0'; ++left, ++right) {
-        if (foldCase(*left) != foldCase(*right))
+    for (;; ++left, ++right) {
+        if (*left == *right) {
+            if (*left == '\0')
+                return true;
+        } else if (foldCase(*left) != foldCase(*right)) {
             return false;
+        }
     }
-    return *left == *right;
 }
 
 } // namespace
 
 KeyIndex::KeyIndex(const char* const* keys, int count)
-    : m_keys(keys, keys + count), m_next(static_cast<size_t>(count), -1)
+    : m_keys(keys, keys + count), m_next(static_cast<size_t>(count), -1), m_first(static_cast<size_t>(count), -1)
 {
     size_t slotCount = 4;
     while (slotCount < static_cast<size_t>(count) * 2)
@@ -94,6 +97,7 @@ KeyIndex::KeyIndex(const char* const* keys, int count)
     m_mask = slotCount - 1;
     for (int field = 0; field < count; ++field) {
         const int first = find(keys[field]);
+        m_first[static_cast<size_t>(field)] = first >= 0 ? first : field;
         if (first >= 0) {
             // Same key but for case: chained behind the first field that bears it.
             int last = first;
@@ -107,6 +111,14 @@ KeyIndex::KeyIndex(const char* const* keys, int count)
             slot = (slot + 1) & m_mask;
         m_slots[slot] = field;
     }
+}
+
+int KeyIndex::find(const char* name, int expected) const
+{
+    if (expected >= 0 && static_cast<size_t>(expected) < m_keys.size()
+        && equalFolded(m_keys[static_cast<size_t>(expected)], name))
+        return m_first[static_cast<size_t>(expected)];
+    return find(name);
 }
 
 int KeyIndex::find(const char* name) const
@@ -127,6 +139,9 @@ RecordLayout::RecordLayout(std::vector<FieldSlot> fieldSlots)
           return KeyIndex(keys.data(), static_cast<int>(keys.size()));
       }())
 {
+    presentNames.reserve(fields.size());
+    for (const FieldSlot& slot : fields)
+        presentNames.push_back(slot.presentName);
 }
 
 namespace {
@@ -253,17 +268,18 @@ void readLayout(IJSONStruct& record, char* base, const RecordLayout& layout, con
         if (slot.fromOwnNode)
             readSlot(slot, base + slot.offset, json);
     }
-    record.presentKeys.reserve(layout.fields.size());
     TakenFields taken(layout.fields.size());
+    int expected = 0;
     for (const cJSON* member = json->child; member != nullptr; member = member->next) {
         if (member->string == nullptr)
             continue;
-        for (int field = layout.index.find(member->string); field >= 0; field = layout.index.next(field)) {
+        for (int field = layout.index.find(member->string, expected); field >= 0; field = layout.index.next(field)) {
+            expected = field + 1;
             const FieldSlot& slot = layout.fields[static_cast<size_t>(field)];
             if (slot.fromOwnNode || !taken.take(static_cast<size_t>(field)))
                 continue;
             readSlot(slot, base + slot.offset, member);
-            record.presentKeys.insert(slot.presentName);
+            record.presentKeys.noteFound(layout.presentNames.data(), static_cast<size_t>(field));
         }
     }
 }
@@ -273,8 +289,9 @@ cJSON* writeLayout(const SerializationIgnoreItemFeatures& filter, char* base, co
     cJSON* object = cJSON_CreateObject();
     if (object == nullptr)
         return nullptr;
+    const bool filtering = filter.filtersSomeKey();
     for (const FieldSlot& slot : layout.fields) {
-        if (slot.writeRule == WriteRule::Never || filter.isItemIgnored(slot.key))
+        if (slot.writeRule == WriteRule::Never || (filtering && filter.isItemIgnored(slot.key)))
             continue;
         addTableItem(object, slot.key, writeSlot(slot, base + slot.offset));
     }

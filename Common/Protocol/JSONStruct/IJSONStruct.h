@@ -7,15 +7,17 @@
 
 #include <cstdint>
 #include <string>
-#include <unordered_set>
 #include <vector>
+
+#include "JSONStruct/PresentKeys.h"
 
 namespace protocol {
 
 class IJSONStruct {
 public:
-    // Keys that fromJSON found in the object, spelt as the record declares them.
-    std::unordered_set<std::string> presentKeys;
+    // Keys that fromJSON found in the object, spelt as the record declares them: a set of
+    // std::string in all but name (see PresentKeys.h).
+    PresentKeys presentKeys;
 
     // Reads the fields present in `json`; a null pointer changes nothing. Never fails.
     virtual void fromJSON(const cJSON* json) = 0;
@@ -43,6 +45,9 @@ public:
 
     // True when `key` is not to be written. A null or empty key (array elements) always passes.
     bool isItemIgnored(const char* key) const;
+    // False when isItemIgnored passes every key, as it does in every record of the client;
+    // writers then skip the test per field.
+    bool filtersSomeKey() const { return ignoreMode == 1 || (ignoreMode == 0 && !ignoreItems.empty()); }
 
     void addBoolItem(cJSON* object, const char* key, bool value) const;
     void addStringItem(cJSON* object, const char* key, const char* value) const;
