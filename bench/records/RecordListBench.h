@@ -56,6 +56,21 @@ inline void printOnly(benchmark::State& state, const std::string& text)
     cJSON_Delete(json);
 }
 
+// The same tree built by cJSON's own code (cJSON_Duplicate of the parsed text, every node,
+// key and string allocated), printed and deleted: what a tree of this shape costs cJSON.
+inline void copyTreeAndPrint(benchmark::State& state, const std::string& text)
+{
+    cJSON* json = cJSON_Parse(text.c_str());
+    for (auto _ : state) {
+        cJSON* copy = cJSON_Duplicate(json, 1);
+        char* printed = cJSON_Print(copy);
+        benchmark::DoNotOptimize(printed);
+        cJSON_free(printed);
+        cJSON_Delete(copy);
+    }
+    cJSON_Delete(json);
+}
+
 template <class List>
 void writeAndPrint(benchmark::State& state, List& list)
 {
