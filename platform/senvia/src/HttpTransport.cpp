@@ -38,6 +38,37 @@ size_t onBody(char* data, size_t size, size_t count, void* user)
     return size * count;
 }
 
+// The room set aside for a body from its announced length, at most: a larger body still
+// arrives whole, growing as it comes, and a false length costs no more than this.
+constexpr size_t kMaxBodyReserve = size_t{16} << 20;
+
+// The value of a "Content-Length" header line, or 0 when `line` is another header or the
+// value is not a plain decimal number.
+size_t announcedLength(const std::string& line)
+{
+    static const char kName[] = "content-length:";
+    const size_t nameLength = sizeof(kName) - 1;
+    if (line.size() <= nameLength)
+        return 0;
+    for (size_t i = 0; i < nameLength; ++i) {
+        const char c = line[i];
+        if ((c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c) != kName[i])
+            return 0;
+    }
+    size_t at = nameLength;
+    while (at < line.size() && (line[at] == ' ' || line[at] == '\t'))
+        ++at;
+    size_t length = 0;
+    bool digits = false;
+    for (; at < line.size() && line[at] >= '0' && line[at] <= '9'; ++at) {
+        digits = true;
+        length = length * 10 + static_cast<size_t>(line[at] - '0');
+        if (length > kMaxBodyReserve)
+            return kMaxBodyReserve;
+    }
+    return digits ? length : 0;
+}
+
 size_t onHeader(char* data, size_t size, size_t count, void* user)
 {
     auto* answer = static_cast<HttpAnswer*>(user);
@@ -49,6 +80,9 @@ size_t onHeader(char* data, size_t size, size_t count, void* user)
             line.pop_back();
         answer->statusLine = line;
         answer->body.clear();
+    } else if (const size_t length = announcedLength(line)) {
+        // The body then comes into one buffer instead of one that is copied as it grows.
+        answer->body.reserve(length);
     }
     return size * count;
 }

@@ -43,6 +43,25 @@ TEST(HttpClientTest, ErrorStatusFailsWithBodyKept)
     EXPECT_EQ(Plinth::Error::GetLastError().toString(), "2-500");
 }
 
+TEST(HttpClientTest, ALargeAnswerArrivesWholeWithOrWithoutItsLength)
+{
+    loopback::DeviceServer server;
+    senvia::HttpResult result;
+    // The announced length sets the room aside at once.
+    ASSERT_TRUE(get(baseUrl(server) + "/large", 5000, result));
+    EXPECT_EQ(result.status, 200);
+    EXPECT_TRUE(result.body == loopback::largeBody(size_t{3} << 20)) << result.body.size();
+    // Chunks without a length grow the body as they come.
+    ASSERT_TRUE(get(baseUrl(server) + "/large?chunked=1&bytes=1000003", 5000, result));
+    EXPECT_TRUE(result.body == loopback::largeBody(1000003)) << result.body.size();
+    // Above the room that a length may set aside, the body still arrives whole.
+    ASSERT_TRUE(get(baseUrl(server) + "/large?bytes=" + std::to_string((size_t{16} << 20) + 5), 20000, result));
+    EXPECT_TRUE(result.body == loopback::largeBody((size_t{16} << 20) + 5)) << result.body.size();
+    // An empty body.
+    ASSERT_TRUE(get(baseUrl(server) + "/large?bytes=0", 5000, result));
+    EXPECT_TRUE(result.body.empty());
+}
+
 TEST(HttpClientTest, RefusedAndTimedOut)
 {
     senvia::HttpResult result;

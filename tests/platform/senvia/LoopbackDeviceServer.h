@@ -2,6 +2,7 @@
 // A device on loopback for transport tests: a real HTTP (or HTTPS) server that records what
 // it was sent, answers per path, checks digest and basic credentials, and counts the
 // connections it was reached on.
+#include <algorithm>
 #include <arpa/inet.h>
 #include <atomic>
 #include <chrono>
@@ -23,6 +24,16 @@
 #include "Plinth/Error.h"
 
 namespace loopback {
+
+// `bytes` bytes in which every byte depends on its place, so that a piece lost, doubled or
+// moved shows.
+inline std::string largeBody(size_t bytes)
+{
+    std::string body(bytes, '\0');
+    for (size_t i = 0; i < bytes; ++i)
+        body[i] = static_cast<char>('a' + (i * 7 + i / 251) % 26);
+    return body;
+}
 
 inline std::string md5Hex(const std::string& text)
 {
@@ -224,6 +235,26 @@ private:
             const int delay = request.has_param("ms") ? std::stoi(request.get_param_value("ms")) : 1000;
             std::this_thread::sleep_for(std::chrono::milliseconds(delay));
             response.set_content("late", "text/plain");
+        });
+
+        // A body of `bytes` bytes (default 3 MB) that tells each byte's place, with its length
+        // announced, or in chunks without one when `chunked` is given.
+        m_server->Get("/large", [](const httplib::Request& request, httplib::Response& response) {
+            const size_t bytes =
+                request.has_param("bytes") ? std::stoul(request.get_param_value("bytes")) : size_t{3} << 20;
+            auto body = std::make_shared<std::string>(largeBody(bytes));
+            if (!request.has_param("chunked")) {
+                response.set_content(*body, "text/plain");
+                return;
+            }
+            response.set_chunked_content_provider("text/plain", [body](size_t offset, httplib::DataSink& sink) {
+                const size_t piece = std::min<size_t>(body->size() - offset, 7000);
+                if (piece > 0)
+                    sink.write(body->data() + offset, piece);
+                if (offset + piece >= body->size())
+                    sink.done();
+                return true;
+            });
         });
 
         m_server->Get("/missing", [](const httplib::Request&, httplib::Response& response) {
