@@ -7,7 +7,6 @@
 #include <QPixmap>
 #include <QStringList>
 #include <QTimer>
-#include <QToolTip>
 #include <new>
 #include <set>
 #include <string>
@@ -18,6 +17,7 @@
 #include "ui/DevicePanelStatus/PanelLayouts.h"
 #include "ui/DevicePanelStatus/PanelResources.h"
 #include "ui/DevicePanelStatus/PixmapSizes.h"
+#include "ui/DevicePanelStatus/PlainToolTip.h"
 #include "ui_UiFiberPanelStatusWidget.h"
 
 namespace velmora {
@@ -295,20 +295,10 @@ bool CFiberPanelStatusWidget::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return CDeviceStatusOptionBase::event(event);
-    const auto* help = static_cast<QHelpEvent*>(event);
+    auto* help = static_cast<QHelpEvent*>(event);
     int slot = 0;
     QRect area;
-    if (!slotAt(help->pos(), slot, area)) {
-        QToolTip::hideText();
-        event->ignore();
-        return true;
-    }
-    // Plain text: a sender's name must never be read as markup.
-    QToolTip::showText(help->globalPos(),
-                       QStringLiteral("<p style='white-space:pre'>%1</p>")
-                           .arg(slotToolTip(slot).toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br/>"))),
-                       this, area);
-    return true;
+    return showPlainToolTip(help, this, slotAt(help->pos(), slot, area) ? slotToolTip(slot) : QString(), area);
 }
 
 } // namespace velmora

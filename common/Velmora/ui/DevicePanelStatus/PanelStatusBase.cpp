@@ -6,10 +6,10 @@
 #include <QPixmap>
 #include <QStringList>
 #include <QSvgRenderer>
-#include <QToolTip>
 
 #include "Quillon/SwitchRecords.h"
 #include "ui/DevicePanelStatus/PanelResources.h"
+#include "ui/DevicePanelStatus/PlainToolTip.h"
 
 #include "ui_PanelStatusBase.h"
 
@@ -236,21 +236,11 @@ bool CPanelStatusBase::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
-    const auto* help = static_cast<QHelpEvent*>(event);
+    auto* help = static_cast<QHelpEvent*>(event);
     unsigned port = 0;
     QRect area;
     const QString text = portAt(help->pos(), port, area) ? portToolTip(port) : QString();
-    if (text.isEmpty()) {
-        QToolTip::hideText();
-        event->ignore();
-        return true;
-    }
-    // Plain text: a device name must never be read as markup.
-    QToolTip::showText(help->globalPos(),
-                       QStringLiteral("<p style='white-space:pre'>%1</p>")
-                           .arg(text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br/>"))),
-                       this, area);
-    return true;
+    return showPlainToolTip(help, this, text, area);
 }
 
 } // namespace velmora
