@@ -9,6 +9,7 @@
 // depends on the order in which the tree reader looks for members (a member given twice),
 // makes it give up without touching the record: the tree reader then reads the answer, so
 // what is accepted and refused stays libxml2's decision in every case.
+#include <cstddef>
 #include <cstdint>
 #include <algorithm>
 #include <array>
@@ -42,8 +43,8 @@ bool scalarFromText(std::string_view raw, T& out);
 enum class XmlStep { GiveUp, NotRead, Read };
 
 // Byte equality of two short texts of `size` bytes, without a library call for the names of
-// an answer (mostly 6 to 20 bytes).
-inline bool sameBytes(const char* a, const char* b, std::size_t size)
+// an answer (mostly 4 to 20 bytes): two overlapping loads from each end.
+__attribute__((always_inline)) inline bool sameBytes(const char* a, const char* b, std::size_t size)
 {
     if (size >= 8 && size <= 16) {
         uint64_t x0, y0, x1, y1;
@@ -53,7 +54,15 @@ inline bool sameBytes(const char* a, const char* b, std::size_t size)
         std::memcpy(&y1, b + size - 8, 8);
         return ((x0 ^ y0) | (x1 ^ y1)) == 0;
     }
-    if (size < 8) {
+    if (size >= 4 && size < 8) {
+        uint32_t x0, y0, x1, y1;
+        std::memcpy(&x0, a, 4);
+        std::memcpy(&y0, b, 4);
+        std::memcpy(&x1, a + size - 4, 4);
+        std::memcpy(&y1, b + size - 4, 4);
+        return ((x0 ^ y0) | (x1 ^ y1)) == 0;
+    }
+    if (size < 4) {
         for (std::size_t i = 0; i < size; ++i) {
             if (a[i] != b[i]) {
                 return false;
@@ -141,11 +150,13 @@ public:
     {
         for (;;) {
             const char* start = m_p;
-            // Indentation eight blanks at a time, then byte by byte.
+            // Line feeds and indentation eight bytes at a time, then byte by byte.
             while (m_end - m_p >= 8) {
                 uint64_t eight;
                 std::memcpy(&eight, m_p, 8);
-                if (eight != 0x2020202020202020ull) {
+                const uint64_t other = notBlank(eight);
+                if (other != 0) {
+                    m_p += firstByte(other);
                     break;
                 }
                 m_p += 8;
@@ -206,6 +217,25 @@ public:
         }
     }
 
+    // The usual value element: plain text and then at once the end tag of `name`, read in one
+    // go. False, with nothing read, for anything else (references, child elements, blanks in
+    // the end tag, the end of the text); content() then reads the element.
+    bool simpleText(std::string_view name, std::string_view& text)
+    {
+        const char* p = m_p;
+        while (p < m_end && kind(*p) == Plain) {
+            ++p;
+        }
+        const std::size_t size = name.size();
+        if (static_cast<std::size_t>(m_end - p) < size + 3 || p[0] != '<' || p[1] != '/' || p[2 + size] != '>' ||
+            !sameBytes(p + 2, name.data(), size)) {
+            return false;
+        }
+        text = std::string_view(m_p, static_cast<std::size_t>(p - m_p));
+        m_p = p + size + 3;
+        return true;
+    }
+
     // Reads past a child element that no member takes, checking it all the same.
     bool skip(std::string_view name, bool empty)
     {
@@ -220,9 +250,58 @@ public:
     // Where decoded text is joined when an element's text comes in several pieces.
     std::string& scratch() { return m_scratch; }
 
+    // The name the next start tag most likely has (a name of the plain form, which the caller
+    // vouches for). The next start tag is compared with it before being read byte by byte;
+    // either way the tag is the same. Any start tag uses the hint up.
+    void expect(std::string_view name) { m_hint = name; }
+
+    // Whether the last start tag read was the hint's name.
+    bool hinted() const { return m_hinted; }
+
+    // Whether `text` is a whole name of the plain form.
+    static bool plainName(std::string_view text)
+    {
+        if (text.empty() || text.size() > kMaxName || !isNameStart(text[0])) {
+            return false;
+        }
+        for (char c : text) {
+            if (!isNameChar(c)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    // Where the scanner stands, and how much text is left after it.
+    const char* position() const { return m_p; }
+    std::size_t left() const { return static_cast<std::size_t>(m_end - m_p); }
+
 private:
 
     static XmlKind kind(char c) { return static_cast<XmlKind>(kXmlClasses.k[static_cast<unsigned char>(c)] & 0x0F); }
+
+    // Of eight bytes (in memory order), those that are neither a space nor a line feed: bit 7
+    // of each such byte set, all other bits clear. Exact per byte: no carry crosses bytes.
+    static uint64_t notBlank(uint64_t x)
+    {
+        constexpr uint64_t kLow7 = 0x7F7F7F7F7F7F7F7Full;
+        constexpr uint64_t kOnes = 0x0101010101010101ull;
+        const auto equal = [&](unsigned char c) {
+            const uint64_t v = x ^ (kOnes * c);
+            return ~(((v & kLow7) + kLow7) | v | kLow7);
+        };
+        return ~(equal(' ') | equal('\n')) & ~kLow7;
+    }
+
+    // The index of the first byte marked in `mask` (not zero), bytes in memory order.
+    static std::size_t firstByte(uint64_t mask)
+    {
+        if constexpr (__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__) {
+            return static_cast<std::size_t>(__builtin_ctzll(mask)) / 8;
+        } else {
+            return static_cast<std::size_t>(__builtin_clzll(mask)) / 8;
+        }
+    }
 
 
     static bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
@@ -460,9 +539,29 @@ private:
     }
 
     // At '<': the name, the attributes (checked, skipped) and '>' or '/>'.
-    bool startTag(std::string_view& tag, bool& empty)
+    __attribute__((always_inline)) bool startTag(std::string_view& tag, bool& empty)
     {
         ++m_p;
+        m_hinted = false;
+        if (!m_hint.empty()) {
+            const std::size_t size = m_hint.size();
+            const bool same = static_cast<std::size_t>(m_end - m_p) > size && m_p[size] == '>' &&
+                              sameBytes(m_p, m_hint.data(), size);
+            m_hint = std::string_view();
+            if (same) { // '>' ends the name: the tag is the hint's name, without attributes
+                tag = std::string_view(m_p, size);
+                m_p += size + 1;
+                empty = false;
+                m_hinted = true;
+                return true;
+            }
+        }
+        return namedTag(tag, empty);
+    }
+
+    // startTag() past '<' when the hint did not match.
+    __attribute__((noinline)) bool namedTag(std::string_view& tag, bool& empty)
+    {
         if (!name(tag)) {
             return false;
         }
@@ -527,6 +626,8 @@ private:
     const char* m_end;
     int m_depth = 1;
     std::string m_scratch;
+    std::string_view m_hint;
+    bool m_hinted = false;
 };
 
 // The text of a scalar element, in place when it comes in one piece, else joined.
@@ -576,6 +677,7 @@ public:
         const char* keyText;
         std::size_t offset;
         XmlStep (*read)(void* member, XmlScanner&, std::string_view, bool);
+        bool plainName; // a name the scanner reads (ASCII, no prefix), so a usable hint
     };
 
     static const XmlMemberTable& instance()
@@ -601,6 +703,19 @@ public:
     }
 
     const Member& member(int index) const { return m_members[static_cast<std::size_t>(index)]; }
+
+    // Tells the scanner that the next child is most likely the member at `index` (or nothing,
+    // when that member's name can't be a hint): after the next start tag, hinted() then says
+    // that the tag is that member.
+    void expect(XmlScanner& scanner, int index) const
+    {
+        if (index >= 0 && static_cast<std::size_t>(index) < m_members.size() &&
+            m_members[static_cast<std::size_t>(index)].plainName) {
+            scanner.expect(m_members[static_cast<std::size_t>(index)].key);
+        } else {
+            scanner.expect(std::string_view());
+        }
+    }
 
 private:
     static constexpr std::size_t kSlots = 64; // a power of two, above twice the largest record
@@ -638,7 +753,7 @@ private:
                     };
                 }
             }
-            m_members.push_back({std::string_view(key), key, offset, reader});
+            m_members.push_back({std::string_view(key), key, offset, reader, XmlScanner::plainName(key)});
         });
         static_assert(kSlots >= 64, "table too small");
         for (std::size_t i = 0; i < m_members.size(); ++i) {
@@ -662,12 +777,15 @@ XmlStep streamRecordXml(R& record, XmlScanner& scanner, std::string_view name, b
         const XmlMemberTable<R>& table = XmlMemberTable<R>::instance();
         uint64_t seen = 0;
         int expected = 0;
+        table.expect(scanner, expected);
         const bool plain = scanner.content(
             name, [](const char*, const char*) {},
             [&](std::string_view child, bool childEmpty) {
-                const int index = table.find(child, expected);
+                const int index = scanner.hinted() ? expected : table.find(child, expected);
                 if (index < 0) {
-                    return scanner.skip(child, childEmpty);
+                    const bool skipped = scanner.skip(child, childEmpty);
+                    table.expect(scanner, expected);
+                    return skipped;
                 }
                 const uint64_t bit = uint64_t{1} << index;
                 if ((seen & bit) != 0) {
@@ -681,6 +799,7 @@ XmlStep streamRecordXml(R& record, XmlScanner& scanner, std::string_view name, b
                 if (step == XmlStep::Read) {
                     presence.note(member.keyText);
                 }
+                table.expect(scanner, expected);
                 return step != XmlStep::GiveUp;
             });
         if (!plain) {
@@ -704,6 +823,26 @@ struct HasFields : std::false_type {};
 template <typename T>
 struct HasFields<T, std::void_t<decltype(Fields<T>::name())>> : std::true_type {};
 
+// After the first item of a list, room for as many more as the rest of the text could hold
+// if they were the size of the first: a page of like items then fills one block instead of
+// being moved on every doubling. The guess is bounded, so that a small first item in a
+// large answer cannot set aside much; past the guess the list grows as usual.
+template <typename Item>
+void reserveLikeFirst(std::vector<Item>& items, std::string_view name, std::ptrdiff_t contentBytes,
+                      std::size_t left)
+{
+    constexpr std::size_t kMaxItems = 4096;
+    constexpr std::size_t kMaxBytes = std::size_t{2} << 20;
+    // The item's start tag and the blank before the next one were not counted: the guess
+    // comes out a little high, which is the side to err on.
+    const std::size_t itemBytes = static_cast<std::size_t>(contentBytes) + name.size() + 2;
+    std::size_t guess = 1 + left / itemBytes;
+    guess = std::min({guess, kMaxItems, std::max<std::size_t>(1, kMaxBytes / sizeof(Item))});
+    if (guess > items.capacity()) {
+        items.reserve(guess);
+    }
+}
+
 template <typename T>
 XmlStep streamXml(T& out, XmlScanner& scanner, std::string_view name, bool empty)
 {
@@ -724,12 +863,18 @@ XmlStep streamXml(T& out, XmlScanner& scanner, std::string_view name, bool empty
                                                        return step != XmlStep::GiveUp;
                                                    } else {
                                                        // Read in place; an item without a value is taken back.
+                                                       const char* itemStart = scanner.position();
                                                        items.emplace_back();
                                                        const XmlStep step =
                                                            streamXml(items.back(), scanner, child, childEmpty);
                                                        if (step != XmlStep::Read) {
                                                            items.pop_back();
+                                                       } else if (items.size() == 1) {
+                                                           reserveLikeFirst(items, child,
+                                                                            scanner.position() - itemStart,
+                                                                            scanner.left());
                                                        }
+                                                       scanner.expect(child); // items share a name
                                                        return step != XmlStep::GiveUp;
                                                    }
                                                });
@@ -752,6 +897,7 @@ XmlStep streamXml(T& out, XmlScanner& scanner, std::string_view name, bool empty
                                                    if (step == XmlStep::Read) {
                                                        out[index++] = value;
                                                    }
+                                                   scanner.expect(child); // items share a name
                                                    return step != XmlStep::GiveUp;
                                                });
             if (!plain) {
@@ -761,6 +907,10 @@ XmlStep streamXml(T& out, XmlScanner& scanner, std::string_view name, bool empty
         return XmlStep::Read;
     } else {
         // A value: the element's text, read only when it holds no element.
+        std::string_view simple;
+        if (!empty && scanner.simpleText(name, simple)) {
+            return scalarFromText(simple, out) ? XmlStep::Read : XmlStep::NotRead;
+        }
         XmlText text(scanner.scratch());
         bool hasElement = false;
         if (!empty) {

@@ -3,6 +3,7 @@
 #include <utility>
 #include <vector>
 
+#include "logical/interface/PagedItems.h"
 #include "JSONStruct/PassThrough/NxrpcPassThroughJSONStruct.h"
 #include "Plinth/Error.h"
 #include "Plinth/GuidUtil.h"
@@ -167,8 +168,8 @@ bool query(Record& record, const Query& row, const std::string& deviceGuid,
 }
 
 // The paged walk: the same search (one searchID) page after page while the device answers
-// "MORE". Items are appended to `output` as they come; it isn't cleared first, and after a
-// failure the pages read so far stay in it. Nothing but the device ends a "MORE" walk.
+// "MORE". Items are appended to `output` after what it already holds (it isn't cleared
+// first), in the order they came; after a failure the pages read so far stay in it. Nothing but the device ends a "MORE" walk.
 template <typename Condition, typename Result, typename Output, typename Item>
 bool walk(Output& output, std::vector<Item> Output::*outputList, std::vector<Item> Result::*resultList,
           const PagedQuery& paged, const std::string& deviceGuid)
@@ -180,12 +181,14 @@ bool walk(Output& output, std::vector<Item> Output::*outputList, std::vector<Ite
 
     protocol::NxrpcPassThroughRspData response;
     protocol::NxrpcPassThroughReq request;
+    PagedItems<Item> pages(output.*outputList);
     for (;;) {
         request.requestUrl = paged.requestUrl;
         request.inBuffer = condition.Make();
         request.recvTimeOut = paged.recvTimeOut;
         Result result(std::string{});
         if (!senvia::CNXRPCPassThroughComm::request(response, request, deviceGuid)) {
+            pages.flush();
             logger().Error("", Plinth::StringUtil::FormatString(paged.failureText, deviceGuid.c_str()), PLINTH_LOCATION);
             return false;
         }
@@ -195,11 +198,9 @@ bool walk(Output& output, std::vector<Item> Output::*outputList, std::vector<Ite
             logger().Info("", Plinth::StringUtil::FormatString(paged.successText, deviceGuid.c_str(), answer.c_str()),
                           PLINTH_LOCATION);
         }
-        std::vector<Item>& items = output.*outputList;
-        for (Item& item : result.*resultList) {
-            items.push_back(std::move(item));
-        }
+        pages.add(result.*resultList);
         if (result.responseStatus != "MORE") {
+            pages.flush();
             return true;
         }
         condition.searchResultPosition += paged.step;

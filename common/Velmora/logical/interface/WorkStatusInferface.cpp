@@ -8,6 +8,7 @@
 
 #include "Plinth/GuidUtil.h"
 #include "Plinth/Log.h"
+#include "logical/interface/PagedItems.h"
 #include "logical/interface/ParamInterface.h"
 
 namespace velmora {
@@ -68,15 +69,16 @@ bool WorkStatusInferface::queryWorkState(Quillon::SwitchesWorkState& state)
     condition.searchID = Plinth::GuidUtil::CreateGuid();
     condition.maxResults = m_nMaxResults;
     condition.searchResultPosition = 0;
+    PagedItems<Quillon::SwitchesWorkStateItem> pages(state.portList);
     for (;;) {
         Quillon::SwitchesWorkStateSearchRes result(std::string{});
         if (!ParamInterface::getSwitchesWorkStateEx(result, condition, m_strDeviceGuid)) {
-            return false; // the pages read so far stay in `state`
+            pages.flush(); // the pages read so far stay in `state`
+            return false;
         }
-        for (Quillon::SwitchesWorkStateItem& item : result.portList) {
-            state.portList.push_back(std::move(item));
-        }
+        pages.add(result.portList);
         if (result.responseStatus != "MORE") {
+            pages.flush();
             return true;
         }
         // With no page size known (-1) the position walks backwards; the device decides.

@@ -102,6 +102,68 @@ TEST(XmlReaderAgreementTest, TextsOutsideThePlainFormAreLeftToTheTree)
     expectAllSameAsTree("<DeviceStatus><cpuList>" + deep + "</cpuList><deviceUpTime>4</deviceUpTime></DeviceStatus>");
 }
 
+// Tags that look almost like the member the reader expects next, and values that end almost
+// like a plain end tag.
+TEST(XmlReaderAgreementTest, TagsAndValuesCloseToTheUsualOnesReadAsTheTreeReadsThem)
+{
+    const std::vector<std::string> items = {
+        "<portIdX>5</portIdX><portId>6</portId>",     // the expected name, longer
+        "<portI>5</portI><portId>6</portId>",         // shorter
+        "<portid>5</portid>",                         // another case
+        "<portId >5</portId>",                        // a blank before '>'
+        "<portId\n>5</portId\t>",
+        "<portId a=\"1\">5</portId>",                 // an attribute
+        "<portId/><portEnabled/>",                     // empty
+        "<portId></portId><portEnabled></portEnabled>",
+        "<portId>5</portId ><portEnabled>true</portEnabled  >",
+        "<portId>5</portIdX>",                        // malformed: other end tag
+        "<portId>5</portI>",
+        "<portId>5</port",                            // the text ends
+        "<portId>5</",
+        "<portId>5<",
+        "<portId>5",
+        "<portId>1&#50;</portId><rate>1&lt;2</rate>", // references
+        "<portId>7<x/></portId><rate>a<b>c</b>d</rate>",
+        "<rate>]]</rate><duplex>a]b</duplex>",
+        "<portRemark>last</portRemark><rate>r</rate><portId>3</portId>", // out of order
+        "<bogus>1</bogus><portId>3</portId><bogus/><portEnabled>true</portEnabled>",
+        "<counterReserved><item>1</item><itemX>2</itemX><item>3</item><item >4</item></counterReserved>",
+        "<linkState>\xE4\xB8\xAD</linkState><rate>\xC3</rate>",
+    };
+    const std::vector<std::string> blanks = {"", "\n", "\n      ", "\n        \n", "\t \n", "        ",
+                                             "\n               x", "\n\r  "};
+    for (const std::string& item : items) {
+        for (const std::string& blank : blanks) {
+            expectAllSameAsTree("<SwitchesWorkStateSearchRes><portList>" + blank + "<SwitchesWorkStateItem>" + blank +
+                                item + blank + "</SwitchesWorkStateItem>" + blank +
+                                "</portList></SwitchesWorkStateSearchRes>");
+            expectAllSameAsTree("<SwitchesWorkStateItem>" + blank + item + blank + "</SwitchesWorkStateItem>");
+        }
+    }
+}
+
+// Lists of many items, of like and of unlike sizes, and items that follow a small first one.
+TEST(XmlReaderAgreementTest, LongListsReadAsTheTreeReadsThem)
+{
+    std::string small = "<SwitchesWorkStateSearchRes><portList><SwitchesWorkStateItem/>";
+    std::string mixed = "<SwitchesWorkStateSearchRes><portList>";
+    for (int i = 0; i < 6000; ++i) {
+        small += "<SwitchesWorkStateItem><portId>" + std::to_string(i) + "</portId></SwitchesWorkStateItem>";
+        mixed += i % 3 == 0 ? std::string("<SwitchesWorkStateItem/>") : std::string(kItem);
+    }
+    small += "</portList></SwitchesWorkStateSearchRes>";
+    mixed += "</portList><responseStatus>OK</responseStatus></SwitchesWorkStateSearchRes>";
+    expectSameAsTree<Quillon::SwitchesWorkStateSearchRes>(small);
+    expectSameAsTree<Quillon::SwitchesWorkStateSearchRes>(mixed);
+
+    Quillon::SwitchesWorkStateSearchRes read(small);
+    ASSERT_EQ(read.portList.size(), 6001u);
+    EXPECT_EQ(read.portList[6000].portId, 5999);
+    Quillon::SwitchesWorkStateSearchRes readMixed(mixed);
+    EXPECT_EQ(readMixed.portList.size(), 6000u);
+    EXPECT_EQ(readMixed.responseStatus, "OK");
+}
+
 TEST(XmlReaderAgreementTest, AnAnswerOutsideThePlainFormLeavesTheRecordToTheTree)
 {
     // A member given twice: the tree's order of look-up decides, and nothing read by the one-
