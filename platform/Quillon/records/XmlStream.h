@@ -280,18 +280,18 @@ private:
 
     static XmlKind kind(char c) { return static_cast<XmlKind>(kXmlClasses.k[static_cast<unsigned char>(c)] & 0x0F); }
 
-    // Of eight bytes (in memory order), those that are neither a space nor a line feed: bit 7
-    // of each such byte set, all other bits clear. Exact per byte: no carry crosses bytes.
-    static uint64_t notBlank(uint64_t x)
+    // Eight bytes at a time, in memory order: bit 7 set in each byte equal to `c`, all other
+    // bits clear. Exact per byte: no carry crosses from one byte to the next.
+    static constexpr uint64_t kLow7 = 0x7F7F7F7F7F7F7F7Full;
+    static constexpr uint64_t kOnes = 0x0101010101010101ull;
+    static uint64_t bytesEqual(uint64_t x, unsigned char c)
     {
-        constexpr uint64_t kLow7 = 0x7F7F7F7F7F7F7F7Full;
-        constexpr uint64_t kOnes = 0x0101010101010101ull;
-        const auto equal = [&](unsigned char c) {
-            const uint64_t v = x ^ (kOnes * c);
-            return ~(((v & kLow7) + kLow7) | v | kLow7);
-        };
-        return ~(equal(' ') | equal('\n')) & ~kLow7;
+        const uint64_t v = x ^ (kOnes * c);
+        return ~(((v & kLow7) + kLow7) | v | kLow7);
     }
+
+    // The bytes that are neither a space nor a line feed.
+    static uint64_t notBlank(uint64_t x) { return ~(bytesEqual(x, ' ') | bytesEqual(x, '\n')) & ~kLow7; }
 
     // The index of the first byte marked in `mask` (not zero), bytes in memory order.
     static std::size_t firstByte(uint64_t mask)
