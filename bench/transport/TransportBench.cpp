@@ -3,11 +3,14 @@
 //   - one query through ParamInterface against the same request made with bare libcurl on a
 //     kept-alive connection;
 //   - the paged work-state walk of a 1,000-port switch through WorkStatusInferface against
-//     the same number of bare round trips with the same bodies.
+//     the same number of bare round trips with the same bodies, measured apart and also
+//     taken in turn, walk by walk.
 // The ratios (layer time / bare time; the goal is 1.3 or less) are printed after the table.
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>
+#include <algorithm>
+#include <chrono>
 #include <cjson/cJSON.h>
 #include <cstdio>
 #include <cstdlib>
@@ -194,10 +197,80 @@ void WorkStateWalkBareCurl(benchmark::State& state)
     state.counters["challenges"] = challengeShare(g_bigSwitch);
 }
 
+// The same two walks taken in turn, one through the interface and one bare, so that both see
+// the same machine: on a shared machine the two separate benchmarks above can meet different
+// loads seconds apart. Reports the median time of each walk and their ratio.
+double g_alternatingRatio = 0.0;
+
+double medianOf(std::vector<double> values)
+{
+    if (values.empty()) {
+        return 0.0;
+    }
+    std::sort(values.begin(), values.end());
+    const std::size_t middle = values.size() / 2;
+    return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2.0;
+}
+
+void WorkStateWalkAlternating(benchmark::State& state)
+{
+    using Clock = std::chrono::steady_clock;
+    g_emulator->clearRequestLog();
+    protocol::SwitchCapabilities capability;
+    capability.supportWorkStatusBatch = true;
+    velmora::WorkStatusInferface* access = velmora::WorkStatusInferface::getInstance();
+    access->initMode(g_bigSwitch, capability);
+    BareDevice device(g_bigSwitch);
+    device.get("/NXRPC/Transfers/Switches/workState/search/capabilities");
+    std::vector<double> layerTimes;
+    std::vector<double> bareTimes;
+    int walk = 0;
+    for (auto _ : state) {
+        std::vector<std::string> bodies;
+        for (int page = 0; page < g_bigPages; ++page) {
+            Quillon::SwitchesWorkStateSearchCond cond;
+            cond.searchID = "BENCH-TURN-" + std::to_string(walk);
+            cond.maxResults = g_bigPageSize;
+            cond.searchResultPosition = page * g_bigPageSize;
+            bodies.push_back(cond.createXml());
+        }
+        ++walk;
+
+        const Clock::time_point start = Clock::now();
+        Quillon::SwitchesWorkState workState(std::string{});
+        if (!access->queryWorkState(workState) || workState.portList.size() != 1000) {
+            state.SkipWithError("walk failed");
+            return;
+        }
+        benchmark::DoNotOptimize(workState.portList.data());
+        const Clock::time_point layerEnd = Clock::now();
+        for (const std::string& body : bodies) {
+            if (!device.post("/NXRPC/Transfers/Switches/workState/search", body)) {
+                state.SkipWithError("request failed");
+                return;
+            }
+            benchmark::DoNotOptimize(device.body().data());
+        }
+        const Clock::time_point bareEnd = Clock::now();
+        const double layer = std::chrono::duration<double>(layerEnd - start).count();
+        const double bare = std::chrono::duration<double>(bareEnd - layerEnd).count();
+        layerTimes.push_back(layer);
+        bareTimes.push_back(bare);
+        state.SetIterationTime(layer + bare);
+    }
+    const double layer = medianOf(layerTimes);
+    const double bare = medianOf(bareTimes);
+    state.counters["layer_ms"] = layer * 1e3;
+    state.counters["bare_ms"] = bare * 1e3;
+    state.counters["ratio"] = bare > 0.0 ? layer / bare : 0.0;
+    g_alternatingRatio = bare > 0.0 ? layer / bare : 0.0;
+}
+
 BENCHMARK(SingleQueryParamInterface)->Unit(benchmark::kMicrosecond)->MinTime(2.0)->UseRealTime();
 BENCHMARK(SingleQueryBareCurl)->Unit(benchmark::kMicrosecond)->MinTime(2.0)->UseRealTime();
 BENCHMARK(WorkStateWalkInterface)->Unit(benchmark::kMillisecond)->MinTime(3.0)->UseRealTime();
 BENCHMARK(WorkStateWalkBareCurl)->Unit(benchmark::kMillisecond)->MinTime(3.0)->UseRealTime();
+BENCHMARK(WorkStateWalkAlternating)->Unit(benchmark::kMillisecond)->MinTime(6.0)->UseManualTime();
 
 // Keeps the real time of each benchmark for the ratios: the median of the repetitions when
 // run with --benchmark_repetitions, else the one run.
@@ -284,6 +357,10 @@ int main(int argc, char** argv)
     std::printf("\nRatios of the query layer over bare libcurl (kept-alive, same requests):\n");
     reporter.printRatio("single query (GET /NXRPC/System/status)", "SingleQueryParamInterface", "SingleQueryBareCurl");
     reporter.printRatio("work-state walk, 1,000 ports", "WorkStateWalkInterface", "WorkStateWalkBareCurl");
+    if (g_alternatingRatio > 0.0) {
+        std::printf("%-44s %.3f  (goal <= 1.3: %s)\n", "the same, the two walks taken in turn", g_alternatingRatio,
+                    g_alternatingRatio <= 1.3 ? "met" : "NOT met");
+    }
     benchmark::Shutdown();
     return 0;
 }

@@ -95,14 +95,22 @@ xmlDocPtr readXmlDocument(const char* text, std::size_t size);
 // ---------------------------------------------------------------------------------------------
 // Scalars from text (XML content). Surrounding blanks are ignored; the rest must be the value.
 
+inline bool isBlankByte(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
 inline std::string_view trimmed(std::string_view text)
 {
-    const char* blanks = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) {
-        return std::string_view();
+    std::size_t first = 0;
+    std::size_t last = text.size();
+    while (first < last && isBlankByte(text[first])) {
+        ++first;
     }
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    while (last > first && isBlankByte(text[last - 1])) {
+        --last;
+    }
+    return text.substr(first, last - first);
 }
 
 template <typename T>

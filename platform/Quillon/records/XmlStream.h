@@ -220,7 +220,7 @@ public:
     // The usual value element: plain text and then at once the end tag of `name`, read in one
     // go. False, with nothing read, for anything else (references, child elements, blanks in
     // the end tag, the end of the text); content() then reads the element.
-    bool simpleText(std::string_view name, std::string_view& text)
+    __attribute__((always_inline)) bool simpleText(std::string_view name, std::string_view& text)
     {
         const char* p = m_p;
         while (p < m_end && kind(*p) == Plain) {
@@ -780,7 +780,7 @@ XmlStep streamRecordXml(R& record, XmlScanner& scanner, std::string_view name, b
         table.expect(scanner, expected);
         const bool plain = scanner.content(
             name, [](const char*, const char*) {},
-            [&](std::string_view child, bool childEmpty) {
+            [&](std::string_view child, bool childEmpty) __attribute__((always_inline)) {
                 const int index = scanner.hinted() ? expected : table.find(child, expected);
                 if (index < 0) {
                     const bool skipped = scanner.skip(child, childEmpty);
