@@ -6,6 +6,8 @@
 //     the same number of bare round trips with the same bodies, measured apart and also
 //     taken in turn, walk by walk.
 // The ratios (layer time / bare time; the goal is 1.3 or less) are printed after the table.
+// Without --benchmark_repetitions each benchmark runs five times, the runs in random order,
+// and the ratios are taken from the medians.
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>
@@ -339,7 +341,25 @@ int main(int argc, char** argv)
     // the console.
     setenv("VELMORA_LOG_LEVEL", "warn", 0);
     QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
+    // Unless told otherwise, five repetitions of each benchmark in random order, so that a
+    // change of the machine's load falls on the query layer and on bare libcurl alike; the
+    // ratios then come from the medians.
+    std::vector<char*> args(argv, argv + argc);
+    bool repetitionsGiven = false;
+    for (int i = 1; i < argc; ++i) {
+        repetitionsGiven = repetitionsGiven || std::string(argv[i]).rfind("--benchmark_repetitions", 0) == 0;
+    }
+    static char repetitions[] = "--benchmark_repetitions=5";
+    static char interleaving[] = "--benchmark_enable_random_interleaving=true";
+    static char aggregatesOnly[] = "--benchmark_report_aggregates_only=true";
+    if (!repetitionsGiven) {
+        args.push_back(repetitions);
+        args.push_back(interleaving);
+        args.push_back(aggregatesOnly);
+    }
+    int benchmarkArgc = static_cast<int>(args.size());
+    args.push_back(nullptr);
+    benchmark::Initialize(&benchmarkArgc, args.data());
 
     EmulatorProcess emulator("large");
     if (!emulator.isRunning()) {
