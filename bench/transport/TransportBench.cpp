@@ -161,6 +161,20 @@ void WorkStateWalkInterface(benchmark::State& state)
     state.counters["challenges"] = challengeShare(g_bigSwitch);
 }
 
+// The request bodies of one walk's pages under one search ID, as the walk writes them.
+std::vector<std::string> walkBodies(const std::string& searchId)
+{
+    std::vector<std::string> pages;
+    for (int page = 0; page < g_bigPages; ++page) {
+        Quillon::SwitchesWorkStateSearchCond cond;
+        cond.searchID = searchId;
+        cond.maxResults = g_bigPageSize;
+        cond.searchResultPosition = page * g_bigPageSize;
+        pages.push_back(cond.createXml());
+    }
+    return pages;
+}
+
 void WorkStateWalkBareCurl(benchmark::State& state)
 {
     g_emulator->clearRequestLog();
@@ -174,15 +188,7 @@ void WorkStateWalkBareCurl(benchmark::State& state)
             state.PauseTiming();
             bodies.clear();
             for (int w = walk; w < walk + 64; ++w) {
-                std::vector<std::string> pages;
-                for (int page = 0; page < g_bigPages; ++page) {
-                    Quillon::SwitchesWorkStateSearchCond cond;
-                    cond.searchID = "BENCH-SEARCH-" + std::to_string(w);
-                    cond.maxResults = g_bigPageSize;
-                    cond.searchResultPosition = page * g_bigPageSize;
-                    pages.push_back(cond.createXml());
-                }
-                bodies.push_back(pages);
+                bodies.push_back(walkBodies("BENCH-SEARCH-" + std::to_string(w)));
             }
             state.ResumeTiming();
         }
@@ -228,14 +234,7 @@ void WorkStateWalkAlternating(benchmark::State& state)
     std::vector<double> bareTimes;
     int walk = 0;
     for (auto _ : state) {
-        std::vector<std::string> bodies;
-        for (int page = 0; page < g_bigPages; ++page) {
-            Quillon::SwitchesWorkStateSearchCond cond;
-            cond.searchID = "BENCH-TURN-" + std::to_string(walk);
-            cond.maxResults = g_bigPageSize;
-            cond.searchResultPosition = page * g_bigPageSize;
-            bodies.push_back(cond.createXml());
-        }
+        const std::vector<std::string> bodies = walkBodies("BENCH-TURN-" + std::to_string(walk));
         ++walk;
 
         const Clock::time_point start = Clock::now();

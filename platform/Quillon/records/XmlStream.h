@@ -42,25 +42,28 @@ bool scalarFromText(std::string_view raw, T& out);
 // over), or the element was read, with or without a value for its member.
 enum class XmlStep { GiveUp, NotRead, Read };
 
+// Whether the first and the last sizeof(Word) bytes of `a` and `b` agree (size at least
+// sizeof(Word)): two overlapping loads from each end cover sizes up to twice the word.
+template <typename Word>
+__attribute__((always_inline)) inline bool sameEnds(const char* a, const char* b, std::size_t size)
+{
+    Word x0, y0, x1, y1;
+    std::memcpy(&x0, a, sizeof(Word));
+    std::memcpy(&y0, b, sizeof(Word));
+    std::memcpy(&x1, a + size - sizeof(Word), sizeof(Word));
+    std::memcpy(&y1, b + size - sizeof(Word), sizeof(Word));
+    return ((x0 ^ y0) | (x1 ^ y1)) == 0;
+}
+
 // Byte equality of two short texts of `size` bytes, without a library call for the names of
-// an answer (mostly 4 to 20 bytes): two overlapping loads from each end.
+// an answer (mostly 4 to 20 bytes).
 __attribute__((always_inline)) inline bool sameBytes(const char* a, const char* b, std::size_t size)
 {
     if (size >= 8 && size <= 16) {
-        uint64_t x0, y0, x1, y1;
-        std::memcpy(&x0, a, 8);
-        std::memcpy(&y0, b, 8);
-        std::memcpy(&x1, a + size - 8, 8);
-        std::memcpy(&y1, b + size - 8, 8);
-        return ((x0 ^ y0) | (x1 ^ y1)) == 0;
+        return sameEnds<uint64_t>(a, b, size);
     }
     if (size >= 4 && size < 8) {
-        uint32_t x0, y0, x1, y1;
-        std::memcpy(&x0, a, 4);
-        std::memcpy(&y0, b, 4);
-        std::memcpy(&x1, a + size - 4, 4);
-        std::memcpy(&y1, b + size - 4, 4);
-        return ((x0 ^ y0) | (x1 ^ y1)) == 0;
+        return sameEnds<uint32_t>(a, b, size);
     }
     if (size < 4) {
         for (std::size_t i = 0; i < size; ++i) {
